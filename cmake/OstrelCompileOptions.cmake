@@ -1,0 +1,26 @@
+# How every target of the project is compiled: the interface target `ostrel_options`.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+add_library(ostrel_options INTERFACE)
+target_compile_features(ostrel_options INTERFACE cxx_std_20)
+
+# Contraction of a * b + c would make results depend on the compiler and the processor.
+target_compile_options(ostrel_options INTERFACE
+  -ffp-contract=off
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wfloat-equal -Woverloaded-virtual)
+
+if(OSTREL_WARNINGS_AS_ERRORS)
+  target_compile_options(ostrel_options INTERFACE -Werror)
+endif()
+
+if(OSTREL_SANITIZE)
+  target_compile_options(ostrel_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(ostrel_options INTERFACE -fsanitize=address,undefined)
+endif()
