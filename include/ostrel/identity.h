@@ -2,15 +2,15 @@
 /// @file  Name and id that records carry. Room: model
 // SPDX-License-Identifier: Apache-2.0
 
-#include <cstdint>
-#include <string>
-
 #include "ostrel/export.h"
 #include "ostrel/stream.h"
 
+#include <cstdint>
+#include <string>
+
 /// A text that describes a record.
 class OSTREL_API xDescription {
- public:
+public:
   /// @name Persisted object, version 1
   ///@{
   virtual void reset();
@@ -23,7 +23,7 @@ class OSTREL_API xDescription {
   const std::string& get_Description() const { return description_; }
   void set_Description(const std::string& description) { description_ = description; }
 
- private:
+private:
   friend struct ostrel::FrameAccess;
   int GetClassVer() const { return 1; }
   void Read(instream& in, int version);
@@ -34,7 +34,7 @@ class OSTREL_API xDescription {
 
 /// What tells one object of the input from another.
 class OSTREL_API xObjectID {
- public:
+public:
   /// @name Persisted object, version 1
   ///@{
   virtual void reset();
@@ -52,7 +52,7 @@ class OSTREL_API xObjectID {
   std::string name;
   std::int32_t id = -1;  ///< -1 when unset
 
- private:
+private:
   friend struct ostrel::FrameAccess;
   int GetClassVer() const { return 1; }
   void Read(instream& in, int version);

@@ -2,25 +2,25 @@
 /// @file  Handles of the binary streams, and what every persisted class shares. Room: services
 // SPDX-License-Identifier: Apache-2.0
 
-#include <cstdint>
-#include <ios>
-#include <stdexcept>
-#include <string>
-#include <vector>
+#include "ostrel/export.h"
 
 #include <tallow/binary_streams.h>
 
 #include <armadillo>
 #include <osg/ref_ptr>
 
-#include "ostrel/export.h"
+#include <cstdint>
+#include <ios>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 /// Handle of a stream to read from. It owns nothing; a handle without a stream reads nothing and
 /// leaves every variable as it is.
 ///
 /// All reads throw `std::runtime_error` when the stream ends early or holds an impossible value.
 class OSTREL_API instream {
- public:
+public:
   instream() = default;
   explicit instream(iInStream* stream) : stream_(stream) {}
 
@@ -40,13 +40,13 @@ class OSTREL_API instream {
   void seekg(std::streampos position, int direction);
   std::streampos tellg();  ///< the reading position, 0 without a stream
 
- private:
+private:
   iInStream* stream_ = nullptr;
 };
 
 /// Handle of a stream to write to; the counterpart of `instream`.
 class OSTREL_API outstream {
- public:
+public:
   outstream() = default;
   explicit outstream(iOutStream* stream) : stream_(stream) {}
 
@@ -61,7 +61,7 @@ class OSTREL_API outstream {
   void seekp(std::streampos position, int direction);  ///< as `instream::seekg`
   std::streampos tellp();                              ///< the writing position, 0 without a stream
 
- private:
+private:
   iOutStream* stream_ = nullptr;
 };
 
@@ -114,7 +114,8 @@ void read_vec_refptr(std::vector<osg::ref_ptr<T>>& list, instream& in, const Fac
 template <class T>
 void write_vec_refptr(const std::vector<osg::ref_ptr<T>>& list, outstream& out) {
   std::size_t count = 0;
-  for (const auto& object : list) count += object.valid() ? 1 : 0;
+  for (const auto& object : list)
+    count += object.valid() ? 1 : 0;
   ostrel::write_count(count, out);
   for (const auto& object : list) {
     if (!object) continue;

@@ -3,15 +3,27 @@
 
 #include "services/class_frame.h"
 
-void xDescription::reset() { description_.clear(); }
+void xDescription::reset() {
+  description_.clear();
+}
 
-std::string xDescription::getIOClass() const { return "xDescription"; }
-void xDescription::pub_read(instream& in) { ostrel::read_frame(in, *this); }
-void xDescription::pub_write(outstream& out) const { ostrel::write_frame(out, *this); }
+std::string xDescription::getIOClass() const {
+  return "xDescription";
+}
+void xDescription::pub_read(instream& in) {
+  ostrel::read_frame(in, *this);
+}
+void xDescription::pub_write(outstream& out) const {
+  ostrel::write_frame(out, *this);
+}
 
 // Stored form, version 1.
-void xDescription::Read(instream& in, int) { ostrel::read_fields(in, description_); }
-void xDescription::Write(outstream& out) const { ostrel::write_fields(out, description_); }
+void xDescription::Read(instream& in, int) {
+  ostrel::read_fields(in, description_);
+}
+void xDescription::Write(outstream& out) const {
+  ostrel::write_fields(out, description_);
+}
 
 void xObjectID::reset() {
   id = -1;
@@ -28,10 +40,20 @@ void xObjectID::setObjectID(long new_id, const std::string& new_name) {
   name = new_name;
 }
 
-std::string xObjectID::getIOClass() const { return "xObjectID"; }
-void xObjectID::pub_read(instream& in) { ostrel::read_frame(in, *this); }
-void xObjectID::pub_write(outstream& out) const { ostrel::write_frame(out, *this); }
+std::string xObjectID::getIOClass() const {
+  return "xObjectID";
+}
+void xObjectID::pub_read(instream& in) {
+  ostrel::read_frame(in, *this);
+}
+void xObjectID::pub_write(outstream& out) const {
+  ostrel::write_frame(out, *this);
+}
 
 // Stored form, version 1.
-void xObjectID::Read(instream& in, int) { ostrel::read_fields(in, id, name); }
-void xObjectID::Write(outstream& out) const { ostrel::write_fields(out, id, name); }
+void xObjectID::Read(instream& in, int) {
+  ostrel::read_fields(in, id, name);
+}
+void xObjectID::Write(outstream& out) const {
+  ostrel::write_fields(out, id, name);
+}

@@ -21,6 +21,8 @@
 // enumeration (as an int), a pair of doubles, an object with a frame of its own, a vector of such
 // objects, a map from int to them, or `base_frame<Base>(*this)`.
 
+#include "ostrel/stream.h"
+
 #include <concepts>
 #include <cstdint>
 #include <map>
@@ -28,8 +30,6 @@
 #include <string>
 #include <type_traits>
 #include <vector>
-
-#include "ostrel/stream.h"
 
 namespace ostrel {
 
@@ -101,18 +101,21 @@ BaseFrame<const Base> base_frame(const Base& object) {
 }
 
 template <class T>
-concept StreamValue = std::same_as<T, int> || std::same_as<T, unsigned int>
-                      || std::same_as<T, double> || std::same_as<T, std::string>
-                      || std::same_as<T, std::int64_t> || std::same_as<T, bool>;
+concept StreamValue =
+    std::same_as<T, int> || std::same_as<T, unsigned int> || std::same_as<T, double> || std::
+        same_as<T, std::string> || std::same_as<T, std::int64_t> || std::same_as<T, bool>;
 
 template <class T>
-concept Persisted = requires(T& object, instream& in) { object.pub_read(in); };
+concept Persisted = requires(T& object, instream& in) {
+  object.pub_read(in);
+};
 
 /// Reads a count and calls `append_one()` that many times: containers grow as elements arrive.
 template <class AppendOne>
 void read_counted(instream& in, const AppendOne& append_one) {
   const int count = read_count(in);
-  for (int i = 0; i < count; ++i) append_one();
+  for (int i = 0; i < count; ++i)
+    append_one();
 }
 
 /// @name One field, read
@@ -123,7 +126,7 @@ void read_field(instream& in, T& value) {
 }
 
 template <class T>
-  requires std::is_enum_v<T>
+requires std::is_enum_v<T>
 void read_field(instream& in, T& value) {
   int number = static_cast<int>(value);
   in >> number;
@@ -169,7 +172,7 @@ void write_field(outstream& out, const T& value) {
 }
 
 template <class T>
-  requires std::is_enum_v<T>
+requires std::is_enum_v<T>
 void write_field(outstream& out, const T& value) {
   out << static_cast<int>(value);
 }
@@ -191,7 +194,8 @@ void write_field(outstream& out, BaseFrame<const Base> base) {
 template <Persisted T>
 void write_field(outstream& out, const std::vector<T>& list) {
   write_count(list.size(), out);
-  for (const T& object : list) object.pub_write(out);
+  for (const T& object : list)
+    object.pub_write(out);
 }
 
 template <Persisted T>

@@ -9,7 +9,9 @@ namespace ostrel {
 #pragma GCC diagnostic ignored "-Wfloat-equal"
 #endif
 /// True when both are the same number; 0.0 and -0.0 are, a NaN equals nothing.
-constexpr bool exactly_equal(double a, double b) { return a == b; }
+constexpr bool exactly_equal(double a, double b) {
+  return a == b;
+}
 #if defined(__GNUC__)
 #pragma GCC diagnostic pop
 #endif

@@ -42,10 +42,14 @@ void write_raw(iOutStream& stream, T value) {
 
 std::ios_base::seekdir seek_direction(int direction) {
   switch (direction) {
-    case 0: return std::ios_base::beg;
-    case 1: return std::ios_base::cur;
-    case 2: return std::ios_base::end;
-    default: throw std::invalid_argument("seek direction must be 0, 1 or 2");
+    case 0:
+      return std::ios_base::beg;
+    case 1:
+      return std::ios_base::cur;
+    case 2:
+      return std::ios_base::end;
+    default:
+      throw std::invalid_argument("seek direction must be 0, 1 or 2");
   }
 }
 
@@ -97,7 +101,9 @@ void instream::seekg(std::streampos position, int direction) {
   if (stream_) stream_->seekg(std::streamoff(position), way);
 }
 
-std::streampos instream::tellg() { return stream_ ? stream_->tellg() : std::streampos(0); }
+std::streampos instream::tellg() {
+  return stream_ ? stream_->tellg() : std::streampos(0);
+}
 
 outstream& outstream::operator<<(int value) {
   if (stream_) stream_->writeInt(value);
@@ -138,7 +144,9 @@ void outstream::seekp(std::streampos position, int direction) {
   if (stream_) stream_->seekp(std::streamoff(position), way);
 }
 
-std::streampos outstream::tellp() { return stream_ ? stream_->tellp() : std::streampos(0); }
+std::streampos outstream::tellp() {
+  return stream_ ? stream_->tellp() : std::streampos(0);
+}
 
 void read_vec(std::vector<arma::Col<double>::fixed<2>>& points, instream& in) {
   points.clear();
@@ -152,7 +160,8 @@ void read_vec(std::vector<arma::Col<double>::fixed<2>>& points, instream& in) {
 
 void write_vec(const std::vector<arma::Col<double>::fixed<2>>& points, outstream& out) {
   ostrel::write_count(points.size(), out);
-  for (const auto& point : points) out << point[0] << point[1];
+  for (const auto& point : points)
+    out << point[0] << point[1];
 }
 
 namespace ostrel {

@@ -20,7 +20,9 @@ void iBindLocale(const char* domain);
 namespace quillet {
 
 /// Marks a text for the catalogue without translating it, as in a constant table.
-constexpr const char* translatable(const char* text) { return text; }
+constexpr const char* translatable(const char* text) {
+  return text;
+}
 
 /// Chooses the language of later translations, "en" or "it" for instance; "it" and any language
 /// without a catalogue give the source texts, an empty text goes back to what the environment asks

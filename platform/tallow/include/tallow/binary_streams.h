@@ -6,6 +6,8 @@
 // double the 8 bytes of its IEEE 754 form, bool 1 byte (0 or 1), string an unsigned 64-bit length
 // followed by its bytes.
 
+#include "tallow/export.h"
+
 #include <cstdint>
 #include <istream>
 #include <memory>
@@ -13,15 +15,13 @@
 #include <string>
 #include <string_view>
 
-#include "tallow/export.h"
-
 /// A `std::istream` that reads typed values.
 ///
 /// Every typed read throws `std::runtime_error` when the stream ends before the value is complete
 /// or the bytes cannot be such a value; what was read before stays read. Nothing is allocated for
 /// bytes that are not there, whatever length a stream claims.
 class TALLOW_API iInStream : public std::istream {
- public:
+public:
   ~iInStream() override;
   iInStream(const iInStream&) = delete;
   iInStream& operator=(const iInStream&) = delete;
@@ -34,17 +34,17 @@ class TALLOW_API iInStream : public std::istream {
   /// Reads exactly `size` bytes to `bytes`, or throws.
   void readBytes(char* bytes, std::size_t size);
 
- protected:
+protected:
   explicit iInStream(std::unique_ptr<std::streambuf> source);
 
- private:
+private:
   std::unique_ptr<std::streambuf> source_;
 };
 
 /// A `std::ostream` that writes typed values; every write throws `std::runtime_error` when the
 /// bytes cannot be stored.
 class TALLOW_API iOutStream : public std::ostream {
- public:
+public:
   ~iOutStream() override;
   iOutStream(const iOutStream&) = delete;
   iOutStream& operator=(const iOutStream&) = delete;
@@ -57,9 +57,9 @@ class TALLOW_API iOutStream : public std::ostream {
   /// Writes `size` bytes from `bytes`, or throws.
   void writeBytes(const char* bytes, std::size_t size);
 
- protected:
+protected:
   explicit iOutStream(std::unique_ptr<std::streambuf> target);
 
- private:
+private:
   std::unique_ptr<std::streambuf> target_;
 };

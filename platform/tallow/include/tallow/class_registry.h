@@ -2,10 +2,10 @@
 /// @file  Which classes a host offers below which root. Library: tallow
 // SPDX-License-Identifier: Apache-2.0
 
+#include "tallow/export.h"
+
 #include <string>
 #include <vector>
-
-#include "tallow/export.h"
 
 namespace Tallow {
 
