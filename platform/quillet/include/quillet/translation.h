@@ -26,12 +26,19 @@ constexpr const char* translatable(const char* text) {
 
 /// Chooses the language of later translations, "en" or "it" for instance; "it" and any language
 /// without a catalogue give the source texts, an empty text goes back to what the environment asks
-/// for. It changes the process's environment: call it before other threads run.
-/// @return true when the texts will come in that language: the source language or one with a
-///         catalogue
+/// for. It changes the environment variable LANGUAGE and, where the process runs in the plain "C"
+/// locale, the category LC_MESSAGES, and nothing else: call it before other threads run.
+///
+/// @param language  a single language, with a country or a character set if need be; anything that
+///                  no language is called by, a path or a list for instance, is refused and changes
+///                  nothing
+/// @return true when the texts of the bound domain will come in that language: the source language
+///         or one with a catalogue; always true for an empty text
 bool set_language(const std::string& language);
 
-/// The folder that holds the catalogues, empty when none was found.
+/// The folder that holds the catalogues, empty when none was found: the nearest `share/locale` in
+/// the folder of the library or program this code is part of or in one of the four above it. It is
+/// looked for once.
 std::string catalogue_folder();
 
 }  // namespace quillet
