@@ -21,7 +21,6 @@ extern "C" int _nl_msg_cat_cntr;  // NOLINT(bugprone-reserved-identifier)
 namespace {
 
 // These two are ready before any code runs, since a library binds its domain while it is loaded.
-// Whatever else lasts is built at first use and never destroyed: texts are asked for until the end.
 constinit std::mutex state_mutex;
 constinit std::atomic<const char*> bound_domain{nullptr};
 
@@ -37,15 +36,24 @@ struct PutAside {
   std::string substitute_locale;                 ///< what it was replaced by
 };
 
+/// Empty while no language is chosen.
 std::optional<PutAside>& put_aside() {
-  static auto& kept = *new std::optional<PutAside>;
+  static std::optional<PutAside> kept;
   return kept;
 }
 
-/// A copy of `name` that is never released: threads may be translating with it.
+/// The names of all domains ever bound: a thread may be translating with any of them. Texts asked
+/// for after the end of this record stay in the source language.
+struct DomainNames {
+  std::set<std::string> names;
+
+  ~DomainNames() { bound_domain.store(nullptr); }
+};
+
+/// A copy of `name` that lasts.
 const char* kept_name(const char* name) {
-  static auto& names = *new std::set<std::string>;
-  return names.insert(name).first->c_str();
+  static DomainNames kept;
+  return kept.names.insert(name).first->c_str();
 }
 
 /// Whether `name` looks like "en", "en_GB", "en_GB.UTF-8" or "sr@latin". Nothing that could name
@@ -149,7 +157,7 @@ bool set_language(const std::string& language) {
 }
 
 std::string catalogue_folder() {
-  static const auto& folder = *new std::string(find_catalogue_folder(module_file()).string());
+  static const std::string folder = find_catalogue_folder(module_file()).string();
   return folder;
 }
 
