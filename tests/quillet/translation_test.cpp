@@ -130,8 +130,9 @@ TEST_F(Translation, NeedsNoChoiceWhereTheHostHasALocale) {
 TEST_F(Translation, GoesBackToWhatTheEnvironmentAsksFor) {
   set_language_variable("de");
   ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
-  quillet::set_language("en");
   quillet::set_language("it");
+  quillet::set_language("en");
+  EXPECT_STREQ(iTranslate(italian), english);
   EXPECT_TRUE(quillet::set_language(""));
   EXPECT_STREQ(iTranslate(italian), german);
   EXPECT_EQ(language_variable(), "de");
