@@ -249,6 +249,7 @@ TEST_F(Translation, IsTheSameInManyThreadsWhileTheDomainIsBoundAgain) {
 TEST_F(Translation, FindsTheCataloguesOfTheLibrary) {
   iBindLocale("Gorm");
   EXPECT_TRUE(quillet::set_language("en"));
+  EXPECT_STREQ(iTranslate("Errore: "), "Error: ");
 }
 
 TEST(CatalogueFolder, OfAProgramIsThatOfItsBuildTree) {
