@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 class CatalogueSearch : public testing::Test {
 protected:
   void SetUp() override {
-    std::string name = testing::TempDir() + "catalogue_search_XXXXXX";
+    std::string name = testing::TempDir() + "catalogue_search_" + std::string(6, 'X');
     ASSERT_NE(mkdtemp(name.data()), nullptr);
     root_ = name;
   }
