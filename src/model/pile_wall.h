@@ -1,0 +1,15 @@
+#pragma once
+/// @file  The pile wall of an input tree. Room: model
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ostrel/sheetpiling_data.h"
+
+namespace ostrel::model {
+
+/// The wall of `data` as the row of piles that the analysis knows; null when the wall is absent or
+/// of another class.
+inline const xPile_Sheetpiling* pile_wall(const xSheetpilingData& data) {
+  return dynamic_cast<const xPile_Sheetpiling*>(data.props.get());
+}
+
+}  // namespace ostrel::model
