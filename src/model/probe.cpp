@@ -35,9 +35,8 @@ void sort_along(const Segment& probe, std::vector<Crossing>& crossings) {
   const auto position = [&](const Crossing& each) {
     return dot(Point(each.point - probe.from), direction);
   };
-  std::stable_sort(
-      crossings.begin(), crossings.end(),
-      [&](const Crossing& a, const Crossing& b) { return position(a) < position(b); });
+  std::stable_sort(crossings.begin(), crossings.end(),
+                   [&](const Crossing& a, const Crossing& b) { return position(a) < position(b); });
 }
 
 void merge_near(std::vector<Crossing>& crossings) {
