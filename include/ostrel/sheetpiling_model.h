@@ -6,6 +6,7 @@
 #include "ostrel/error.h"
 #include "ostrel/export.h"
 #include "ostrel/fem_data.h"
+#include "ostrel/restriction.h"
 #include "ostrel/soil_layer.h"
 
 #include <vector>
@@ -41,6 +42,47 @@ public:
   /// Finishes `layer`: splits it at the water on the retained side if that lies inside, gives it
   /// its levels and appends it.
   void insert_WaterTable(const xWaterTable& water, xSoilLayer& layer);
+  ///@}
+
+  /// @name Second stage: the beam
+  ///@{
+  /// Makes the beam anew: a node for each level down to the wall's foot, an element between
+  /// neighbours; a node at each constraint and anchor, and the links of the anchors. A constraint
+  /// outside of the beam is left out, an anchor outside of it keeps node -1. What no mesh sets
+  /// (`Redfac`, `Dembinc`) stays as it is.
+  /// @retval errNoWall  there is no input or no pile wall in it; nothing changes
+  /// @retval errNoExcavationNode  no node within 0.001 mm of the excavation level
+  OstrelErrorType create_FemModel(xSheetpilingData* data);
+
+  /// Puts a node at `depth` [mm] into an element, with its level into the layers; every index below
+  /// moves up by one. Both halves keep the length of the whole element.
+  void splitBeam(int element, double depth);
+
+  /// Finds the node of a constraint, within 0.001 mm of its level, or makes one, and puts the
+  /// constraint on it; see `applyConstrToNode`.
+  void applyConstraints(int kind, const xConstraint& constraint);
+
+  /// Puts the active parts of a constraint on a node.
+  ///
+  /// @oddity An imposed displacement along the wall goes into the beam with its sign reversed; the
+  /// other parts do not, and no spring does. Stored results depend on it.
+  ///
+  /// @param kind  0 for imposed values, of which a later one replaces an earlier one; 1 for
+  ///              springs, which add up; nothing happens for any other
+  /// @param node  its index is not tested
+  void applyConstrToNode(int kind, int node, const xConstraint& constraint);
+
+  /// The first node that is the same point as (x, y) [mm], y being the depth, by the process's
+  /// tolerance of positions; -1 for none.
+  int findFemNode(double x, double y) const;
+
+  /// The first element that holds a depth, and its node there.
+  /// @param depth      [mm]
+  /// @param tolerance  by which the depth may lie beyond an element or off a node [mm]
+  /// @param node       out: the element's node within the tolerance of the depth, the end node if
+  ///                   both are, -1 if none is
+  /// @return index of the element, -1 for none
+  int findFemElement(double depth, double tolerance, int& node) const;
   ///@}
 
   std::vector<xSoilLayer> layers;        ///< from the top down, in the order of the input
