@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ostrel/seismic_action.h"
 
+#include "ostrel/design_soil.h"
 #include "support/random_values.h"
 #include "support/stream_round_trip.h"
 
@@ -207,6 +208,21 @@ TEST(SeismicAction, ChangesTheSignOfTheVerticalCoefficientAlone) {
   action.switchSign();
   EXPECT_EQ(action.coefficients[0], 0.2);
   EXPECT_EQ(action.coefficients[1], 0.1);
+}
+
+// A new action has no earthquake: psi = atan(0 / 1) = 0 leaves Coulomb's wedge.
+TEST(SeismicAction, GivesCoulombsCoefficientByMononobeAndOkabeWhenNew) {
+  const xSeismicAction action;
+  xDesignSoil design;
+  design.soil.set_InternalFriction(0.6);
+  design.soil.setInterfaceFriction(0.4);
+  for (const bool active : {true, false}) {
+    design.compute_Coeff(formulaMononobeOkabe, 0.1, 0.2, action.coefficients, active);
+    const double seismic = design.getK();
+    design.compute_Coeff(formulaCoulomb, 0.1, 0.2, action.coefficients, active);
+    EXPECT_NEAR(seismic, design.getK(), 1e-12 * seismic);
+    EXPECT_GT(seismic, 0.0);
+  }
 }
 
 TEST(SeismicAction, KeepsTheSecondPairOutOfTheStoredForm) {
