@@ -2,15 +2,19 @@
 /// @file  The beam on springs: its matrices and load vectors. Room: fem
 // SPDX-License-Identifier: Apache-2.0
 
+#include "ostrel/anchor.h"
 #include "ostrel/error.h"
 #include "ostrel/export.h"
 #include "ostrel/fem_data.h"
 #include "ostrel/fem_load.h"
+#include "ostrel/fem_results.h"
+#include "ostrel/soil_spring.h"
 
 #include <armadillo>
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -67,6 +71,105 @@ public:
   OstrelErrorType reviseElemLength(const xFemData& data);
   ///@}
 
+  /// @name The non-linear solution
+  ///@{
+  /// Finds the displacements of the beam under the sum of all conditions and recovers the results.
+  ///
+  /// A secant iteration: each pass takes every soil spring with its stiffness at the displacement
+  /// of the pass before and solves anew. It ends when the sum of the absolute changes of dof 1 over
+  /// the spring nodes is at most the tolerance, or after `maxIterations` passes, whose last solution
+  /// then stands without an error.
+  ///
+  /// @oddity The sum is absolute, in mm, and grows with the number of nodes. Stored results depend
+  /// on it.
+  ///
+  /// @oddity Code 16 speaks of an iteration that does not converge, but what raises it is that every
+  /// spring has moved beyond its limit; this counts in the first pass already, also when the sum is
+  /// within the tolerance, and always where there is no spring.
+  ///
+  /// @param anchors  springs of the anchors; a prestress puts no force on the beam
+  /// @param modulus  the soil springs by node, per unit of wall width
+  /// @param result   filled in the end
+  /// @param spacing  width of the wall that the beam stands for [mm]
+  /// @retval errNonLinearNotConverged  all springs beyond their limits, or none at all
+  /// @retval errFemNodeNotFound  a spring lacks a neighbour, or a load, support or anchor stands on
+  ///         a node or an element that the beam does not have
+  /// @retval errEquationSolve  a mechanism, or numbers that are not finite
+  /// @retval errNodeCountModel  more than 5000 elements: the dense matrix would not fit the memory
+  OstrelErrorType solve(xFemSolverOptions& options, const std::vector<info_Fem_anchor>& anchors,
+                        const xFemData& data, const std::map<int, NodeModulus>& modulus,
+                        const std::vector<xFemLoadCond>& loadConds, xCombRes& result,
+                        double spacing);
+
+  /// Lumps the pressures of the soil springs at the nodes, as stiffnesses [N/mm]. With k' the secant
+  /// modulus, L the length of the element below the node (above it at the foot) and s the spacing:
+  ///
+  ///     at the excavation   (7 k'(i) + 6 k'(i+1) - k'(i+2)) Redfac L(i) s / 24
+  ///     at the foot         (7 k'(i) + 6 k'(i-1) - k'(i-2)) L(i-1) s / 24
+  ///     else                (k'(i-1) + 10 k'(i) + k'(i+1)) L(i) s / 12
+  ///
+  /// @oddity The lengths of the two elements at a node are not averaged. Stored results depend on it.
+  ///
+  /// @param displacements  by dof [mm]; null, or a dof beyond the end, reads as no displacement
+  /// @param springs        by node; emptied first
+  /// @retval errFemNodeNotFound  a neighbour has no spring, or a spring no element; `springs` hold
+  ///         those before it
+  OstrelErrorType build_SkSpring(const xFemData& data, const std::map<int, NodeModulus>& modulus,
+                                 double spacing, std::vector<double>* displacements,
+                                 std::map<int, double>& springs);
+
+  /// Puts anchors, springs and constraints into the equations, in the order that decides where a
+  /// support and a spring share a dof: anchors; springs and constraints of dof 0; springs, soil and
+  /// constraints of dof 1; springs and constraints of dof 2.
+  /// @retval errFemNodeNotFound  a node beyond `K`
+  OstrelErrorType appBoundCond(const std::vector<info_Fem_anchor>& anchors, const xFemData& data,
+                               const std::map<int, double>& springs, arma::Mat<double>& K,
+                               std::vector<double>& rhs);
+
+  /// Adds stiffnesses to the diagonal entries of dof `dof` (0 to 2) of the nodes.
+  /// @retval errFemNodeNotFound  a node beyond `K`
+  OstrelErrorType appNodalSprings(int dof, const std::map<int, double>& springs,
+                                  arma::Mat<double>& K);
+
+  /// Prescribes the displacement of dof `dof` (0 to 2) of the nodes: the row becomes that of the
+  /// identity, the column stays, so that `K` is not symmetric any more.
+  /// @retval errFemNodeNotFound  a node beyond `K`
+  OstrelErrorType appNodalConstr(int dof, const std::map<int, double>& values, arma::Mat<double>& K,
+                                 std::vector<double>& rhs);
+
+  /// Solves the square system with its rows and columns scaled; the solution replaces `rhs`.
+  /// @retval errEquationSolve  singular to working precision, sizes that do not fit, or numbers
+  ///         that are not finite; nothing is thrown
+  OstrelErrorType solveEQ(const arma::Mat<double>& K, std::vector<double>& rhs);
+  ///@}
+
+  /// @name Recovery of the results, from the displacements `d` by dof
+  ///@{
+  /// One entry for each node. Always returns success.
+  OstrelErrorType getDisplacements(const std::vector<double>& d, std::vector<xFemNodeData>& out);
+
+  /// The total load of each node where its size, forces and moment mixed, is above 0.0001.
+  OstrelErrorType getAppliedNodalForces(const std::vector<double>& total,
+                                        std::map<int, xFemNodeData>& out);
+
+  /// The pressure of the soil on the wall at each spring node [N/mm²], against its displacement.
+  /// @param linear  the reaction in use has no limit
+  OstrelErrorType getSoilReaction(bool linear, const std::map<int, NodeModulus>& modulus,
+                                  const std::vector<double>& d, std::map<int, reacTerr>& out);
+
+  /// The forces at both ends of each element: the stiffness of the element times its displacements,
+  /// less the nodal loads of its pressures.
+  /// @param total_elem_loads  of each element, summed over the conditions [N], [Nmm]
+  OstrelErrorType getBeamStress(const xFemData& data, const std::vector<double>& d,
+                                const std::vector<arma::Col<double>>& total_elem_loads,
+                                std::vector<xBeamStress>& out);
+
+  /// `K` d less the total load at each node where its size is above 0.0001: what supports, springs
+  /// and anchors exert there, reversed. Overwrites `d`; `out` is not emptied.
+  OstrelErrorType getNodalForce(std::vector<double>& total, std::vector<double>& d,
+                                std::map<int, xFemNodeData>& out);
+  ///@}
+
   std::vector<double> elemLength;                    ///< of each element [mm]
   std::vector<std::vector<std::uint32_t>> topology;  ///< the six dofs of each element
   std::vector<std::vector<double>> loads;  ///< for each condition Np loads, by dof [N], [Nmm]
@@ -82,4 +185,5 @@ public:
 
 private:
   bool fits(const xFemData& data) const;
+  OstrelErrorType assemble(const xFemData& data, const std::vector<xFemLoadCond>& conditions);
 };
