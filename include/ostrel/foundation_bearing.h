@@ -108,8 +108,10 @@ private:
   bool DepthFactIsActive = false;
   bool BaseFactIsActive = false;
   bool GroundFactIsActive = false;
-  bool PunchingFactIsActive = false;  ///< also switches the inertia factors
-  bool InertialFactIsActive = false;  ///< read by nothing
+  /// @oddity Switches the inertia factors too, and `InertialFactIsActive`, which is meant to, is read
+  /// by nothing. Stored results depend on it.
+  bool PunchingFactIsActive = false;
+  bool InertialFactIsActive = false;
   bool UnderWater = false;            ///< the soil below the foundation weighs less by the water's
 };
 
@@ -132,68 +134,67 @@ public:
 
   /// Works out the factors and then the limit load.
   /// @retval errLoadTooInclined  from `compute_Factors`; the limit load is left as it was
-  OstrelErrorType compute_BearCapacity(xBearCapacityData& data);
+  OstrelErrorType compute_BearCapacity(const xBearCapacityData& data);
 
   /// Works out the factors alone, by the formulation of `data`. A friction angle below
   /// `xTolerances::friction_angle` counts as 0.
-  /// @retval errLoadTooInclined  an inclination factor is negative or not a number; the factors
-  /// that
-  ///                             come after the inclination are left as they were
-  OstrelErrorType compute_Factors(xBearCapacityData& data);
+  /// @retval errLoadTooInclined  an inclination factor is negative or not a number; only bearing and
+  ///                             inclination factors are new then
+  OstrelErrorType compute_Factors(const xBearCapacityData& data);
 
   /// @name Bearing factors
   ///@{
-  double getNc() const { return N.c; }
-  void setNc(double factor) { N.c = factor; }
-  double getNq() const { return N.q; }
-  void setNq(double factor) { N.q = factor; }
-  double getNg() const { return N.g; }
-  void setNg(double factor) { N.g = factor; }
+  double getNc() const { return bearing_.c; }
+  void setNc(double factor) { bearing_.c = factor; }
+  double getNq() const { return bearing_.q; }
+  void setNq(double factor) { bearing_.q = factor; }
+  double getNg() const { return bearing_.g; }
+  void setNg(double factor) { bearing_.g = factor; }
   ///@}
   /// @name Inclination of the load
   ///@{
-  double getIc() const { return I.c; }
-  void setIc(double factor) { I.c = factor; }
-  double getIq() const { return I.q; }
-  void setIq(double factor) { I.q = factor; }
-  double getIg() const { return I.g; }
-  void setIg(double factor) { I.g = factor; }
+  double getIc() const { return inclination_.c; }
+  void setIc(double factor) { inclination_.c = factor; }
+  double getIq() const { return inclination_.q; }
+  void setIq(double factor) { inclination_.q = factor; }
+  double getIg() const { return inclination_.g; }
+  void setIg(double factor) { inclination_.g = factor; }
   ///@}
   /// @name Inclination of the base
   ///@{
-  double getBc() const { return B.c; }
-  void setBc(double factor) { B.c = factor; }
-  double getBq() const { return B.q; }
-  void setBq(double factor) { B.q = factor; }
-  double getBg() const { return B.g; }
-  void setBg(double factor) { B.g = factor; }
+  double getBc() const { return base_.c; }
+  void setBc(double factor) { base_.c = factor; }
+  double getBq() const { return base_.q; }
+  void setBq(double factor) { base_.q = factor; }
+  double getBg() const { return base_.g; }
+  void setBg(double factor) { base_.g = factor; }
   ///@}
   /// @name Shape of the base
   ///@{
-  double getSc() const { return S.c; }
-  void setSc(double factor) { S.c = factor; }
-  double getSq() const { return S.q; }
-  void setSq(double factor) { S.q = factor; }
-  double getSg() const { return S.g; }
-  void setSg(double factor) { S.g = factor; }
+  double getSc() const { return shape_.c; }
+  void setSc(double factor) { shape_.c = factor; }
+  double getSq() const { return shape_.q; }
+  void setSq(double factor) { shape_.q = factor; }
+  double getSg() const { return shape_.g; }
+  void setSg(double factor) { shape_.g = factor; }
   ///@}
   /// @name Depth of the base
   ///@{
-  double getDc() const { return D.c; }
-  void setDc(double factor) { D.c = factor; }
-  double getDq() const { return D.q; }
-  void setDq(double factor) { D.q = factor; }
-  double getDg() const { return D.g; }
-  void setDg(double factor) { D.g = factor; }
+  double getDc() const { return depth_.c; }
+  void setDc(double factor) { depth_.c = factor; }
+  double getDq() const { return depth_.q; }
+  void setDq(double factor) { depth_.q = factor; }
+  double getDg() const { return depth_.g; }
+  void setDg(double factor) { depth_.g = factor; }
   ///@}
   /// @name Inclination of the ground
   ///@{
-  double getGc() const { return G.c; }
-  void setGc(double factor) { G.c = factor; }
-  double getGq() const { return G.q; }
-  void setGq(double factor) { G.q = factor; }
-  double getGg() const { return G.g; }
-  void setGg(double factor) { G.g = factor; }
+  double getGc() const { return ground_.c; }
+  void setGc(double factor) { ground_.c = factor; }
+  double getGq() const { return ground_.q; }
+  void setGq(double factor) { ground_.q = factor; }
+  double getGg() const { return ground_.g; }
+  void setGg(double factor) { ground_.g = factor; }
   ///@}
   /// @name Punching: critical and actual rigidity index, and the factors
   ///@{
@@ -201,21 +202,21 @@ public:
   void setIrc(double index) { Irc = index; }
   double getIr() const { return Ir; }
   void setIr(double index) { Ir = index; }
-  double getPSIc() const { return PSI.c; }
-  void setPSIc(double factor) { PSI.c = factor; }
-  double getPSIq() const { return PSI.q; }
-  void setPSIq(double factor) { PSI.q = factor; }
-  double getPSIg() const { return PSI.g; }
-  void setPSIg(double factor) { PSI.g = factor; }
+  double getPSIc() const { return punching_.c; }
+  void setPSIc(double factor) { punching_.c = factor; }
+  double getPSIq() const { return punching_.q; }
+  void setPSIq(double factor) { punching_.q = factor; }
+  double getPSIg() const { return punching_.g; }
+  void setPSIg(double factor) { punching_.g = factor; }
   ///@}
   /// @name Inertia of the soil
   ///@{
-  double getZc() const { return Z.c; }
-  void setZc(double factor) { Z.c = factor; }
-  double getZq() const { return Z.q; }
-  void setZq(double factor) { Z.q = factor; }
-  double getZg() const { return Z.g; }
-  void setZg(double factor) { Z.g = factor; }
+  double getZc() const { return inertia_.c; }
+  void setZc(double factor) { inertia_.c = factor; }
+  double getZq() const { return inertia_.q; }
+  void setZq(double factor) { inertia_.q = factor; }
+  double getZg() const { return inertia_.g; }
+  void setZg(double factor) { inertia_.g = factor; }
   ///@}
 
   double getLimitLoad_Nmmq() const { return LimitLoad; }
@@ -224,20 +225,22 @@ public:
 protected:
   /// @name The two formulations; all factors that are active, but not the limit load
   ///@{
-  OstrelErrorType terzaghi(xBearCapacityData& data);
-  OstrelErrorType eurocode7(xBearCapacityData& data);
+  OstrelErrorType terzaghi(const xBearCapacityData& data);
+  OstrelErrorType eurocode7(const xBearCapacityData& data);
   ///@}
 
 private:
-  ostrel::geotech::TermFactors N;
-  ostrel::geotech::TermFactors I;
-  ostrel::geotech::TermFactors B;
-  ostrel::geotech::TermFactors S;
-  ostrel::geotech::TermFactors D;  ///< that of the weight stays what it was set to
-  ostrel::geotech::TermFactors G;
+  void set_common_factors(const xBearCapacityData& data, double phi);
+
+  ostrel::geotech::TermFactors bearing_;
+  ostrel::geotech::TermFactors inclination_;
+  ostrel::geotech::TermFactors base_;
+  ostrel::geotech::TermFactors shape_;
+  ostrel::geotech::TermFactors depth_;  ///< that of the weight stays what it was set to
+  ostrel::geotech::TermFactors ground_;
   double Irc = 0.0;  ///< critical rigidity index [-]
   double Ir = 0.0;   ///< actual rigidity index [-]
-  ostrel::geotech::TermFactors PSI;
-  ostrel::geotech::TermFactors Z;
+  ostrel::geotech::TermFactors punching_;
+  ostrel::geotech::TermFactors inertia_;
   double LimitLoad = 0.0;  ///< as a stress [N/mm²]
 };
