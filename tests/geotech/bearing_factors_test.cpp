@@ -46,7 +46,7 @@ TEST(BearingFactors, OfEurocode7At30Degrees) {
 TEST(BearingFactors, WithoutFrictionAreTwoPlusPiOneAndNothing) {
   for (const TermFactors& N : {bearing_terzaghi(0.0), bearing_eurocode7(0.0)}) {
     EXPECT_EQ(N.c, two_plus_pi);
-    EXPECT_EQ(N.q, 1.0);
+    EXPECT_DOUBLE_EQ(N.q, 1.0);  // tan(pi / 4) rounds to a little less
     EXPECT_EQ(N.g, 0.0);
   }
   EXPECT_EQ(bearing_eurocode7(-0.0).c, two_plus_pi);
