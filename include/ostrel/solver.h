@@ -13,6 +13,7 @@
 #include "ostrel/sheetpiling_model.h"
 #include "ostrel/ultimate_limit_states.h"
 
+#include <cstddef>
 #include <map>
 #include <vector>
 
@@ -45,6 +46,7 @@ public:
 
   /// Analyses one combination on the beam of `model`; the springs stand in `result` already.
   /// @retval errNoWall  no pile wall
+  /// @retval errCondListMismatch  not three actions more than there are load conditions
   /// @retval errLoadUndefined  a load has no pressure diagram or no place on the wall
   OstrelErrorType solveForCombination(xLoadComb* comb, xCombResults& result);
 
@@ -102,4 +104,12 @@ public:
   xSheetpilingData data;         ///< the input; a run changes this copy
   xSheetpilingModel model;       ///< ground, beam and anchor links of the run
   xFemSolverOptions femOptions;  ///< of the non-linear solution
+
+private:
+  bool solveCombinations(xSheetpilingRes& results, std::vector<xVeldError>& errors);
+  OstrelErrorType solveOne(xLoadComb& comb, xCombResults& result);
+  OstrelErrorType addWeight(const xLoadComb& comb, xCombResults& result);
+  OstrelErrorType addEarthPressure(const xLoadComb& comb, xCombResults& result);
+  OstrelErrorType addWaterPressure(const xLoadComb& comb, xCombResults& result);
+  OstrelErrorType addLoadCondition(std::size_t i, xLoadComb& comb, xCombResults& result);
 };

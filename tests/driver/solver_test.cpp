@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ostrel/solver.h"
+
+#include "ostrel/language.h"
+#include "support/wall_builder.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using ostrel::testing::sand;
+using ostrel::testing::unfactored;
+using ostrel::testing::WallBuilder;
+using ::testing::StartsWith;
+
+// A wall of 12 m in 6 m of excavation in sand that stands.
+WallBuilder standing_wall() {
+  return WallBuilder{}.excavation(3000.0).layer(sand());
+}
+
+// A load on the ground that no law knows.
+osg::ref_ptr<xSoilLoad> load_without_a_law() {
+  return new xLocalizedLoad;
+}
+
+class Run : public ::testing::Test {
+protected:
+  void SetUp() override { ASSERT_TRUE(ostrel::set_language("it")); }
+  void TearDown() override { ostrel::set_language(""); }
+
+  xVeldErrorsType run(const xSheetpilingData& data) {
+    solver.data = data;
+    return solver.solve(results, uls, sls, errors);
+  }
+
+  xSolver solver;
+  xSheetpilingRes results;
+  xUltimateLimitStates uls;
+  xServiceabilityLimitStates sls;
+  std::vector<xVeldError> errors;
+};
+
+TEST_F(Run, WithoutAWallReportsItAndNothingElse) {
+  EXPECT_EQ(run(xSheetpilingData{}), veldError);
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_EQ(errors[0].getID(), errNoWall);
+  EXPECT_EQ(errors[0].getIdObj(), -1);
+  EXPECT_EQ(errors[0].MakeErrStr(), "Errore: Nessuna paratia di pali definita");
+  EXPECT_TRUE(results.combResults.empty());
+}
+
+TEST_F(Run, WithoutCombinationsGoesThrough) {
+  EXPECT_EQ(run(standing_wall().build()), veldNothing);
+  EXPECT_TRUE(errors.empty());
+  EXPECT_TRUE(results.combResults.empty());
+  EXPECT_FALSE(solver.model.fem.nodes.empty());
+}
+
+TEST_F(Run, OfAGroundThatMissesTheWallCarriesTheIdOfTheWall) {
+  xSheetpilingData data = standing_wall().build();
+  xBoundSoilLayer beside;
+  beside.polygons = {ostrel::testing::rectangle(1000.0, 2000.0, -500.0, 0.0)};
+  data.soilLayers.push_back(beside);
+  EXPECT_EQ(run(data), veldError);
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_EQ(errors[0].getID(), errNoLayerIntersection);
+  EXPECT_EQ(errors[0].getIdObj(), 7);
+}
+
+TEST_F(Run, OfAnExcavationBelowTheFootFindsNoNode) {
+  EXPECT_EQ(run(WallBuilder{}.excavation(13000.0).layer(sand()).build()), veldError);
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_EQ(errors[0].getID(), errNoExcavationNode);
+  EXPECT_EQ(errors[0].GetErrorStr(), "Nodo corrispondente alla quota di fondo scavo non trovato");
+}
+
+TEST_F(Run, HoldsTheFootOfTheWallEachTime) {
+  const xSheetpilingData data = standing_wall().build();
+  ASSERT_EQ(run(data), veldNothing);
+  ASSERT_EQ(solver.data.restriction.imposed.size(), 1U);
+  const xConstraint& foot = solver.data.restriction.imposed[0];
+  EXPECT_DOUBLE_EQ(foot.getPosition(), 12000.0);
+  EXPECT_TRUE(foot.axial.getActive());
+  EXPECT_DOUBLE_EQ(foot.axial.getValue(), 0.0);
+  EXPECT_FALSE(foot.horizontal.getActive());
+  EXPECT_FALSE(foot.rotation.getActive());
+  EXPECT_TRUE(data.restriction.imposed.empty());
+  solver.model.reset();
+  ASSERT_EQ(solver.solve(results, uls, sls, errors), veldNothing);
+  EXPECT_EQ(solver.data.restriction.imposed.size(), 2U);
+}
+
+TEST_F(Run, RefusesACombinationWithTooFewActions) {
+  xSheetpilingData data = standing_wall().combination(unfactored("A1")).build();
+  data.loadConds.resize(1);
+  EXPECT_EQ(run(data), veldError);
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_EQ(errors[0].getID(), errCondListMismatch);
+  EXPECT_EQ(errors[0].getIdObj(), -1);
+  EXPECT_THAT(errors[0].GetErrorStr(), StartsWith("Numero di condizioni"));
+}
+
+TEST_F(Run, StopsAtACombinationWithTooManyActionsAndKeepsTheEarlierResults) {
+  xLoadComb crowded = unfactored("B");
+  crowded.actions.emplace_back();
+  const xSheetpilingData data = standing_wall()
+                                    .combination(unfactored("A"))
+                                    .combination(crowded)
+                                    .combination(unfactored("C"))
+                                    .build();
+  EXPECT_EQ(run(data), veldError);
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_EQ(errors[0].getID(), errCondListMismatch);
+  ASSERT_EQ(results.combResults.size(), 1U);
+  EXPECT_EQ(results.combResults[0].getCombName(), "A");
+}
+
+TEST_F(Run, ReportsAFailedCombinationByNameAndGoesOn) {
+  xSheetpilingData data = standing_wall().build();
+  data.loadConds.resize(1);
+  data.loadConds[0].soilLoads.push_back(load_without_a_law());
+  for (const char* name : {"first", "second"}) {
+    xLoadComb comb = unfactored(name);
+    comb.setcombIndex(static_cast<int>(data.loadCombs.size()) + 10);
+    comb.actions.emplace_back().set("Q", data.loadCombs.empty(), 1.0, 1.0);
+    data.loadCombs.push_back(comb);
+  }
+  EXPECT_EQ(run(data), veldError);
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_EQ(errors[0].getID(), errLoadUndefined);
+  EXPECT_EQ(errors[0].getIdObj(), 7);
+  EXPECT_EQ(errors[0].GetErrorStr(), "Combinazione 'first': Carico non definito");
+  ASSERT_EQ(results.combResults.size(), 1U);
+  EXPECT_EQ(results.combResults[0].getCombName(), "second");
+  EXPECT_EQ(results.combResults[0].getcombIndex(), 11);
+}
+
+TEST_F(Run, ReportsACombinationWhoseSpringsFindNoInterval) {
+  xSheetpilingData data = standing_wall().combination(unfactored("A")).build();
+  data.springIntervals.clear();
+  EXPECT_EQ(run(data), veldError);
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_EQ(errors[0].getID(), errNoUltimatePressure);
+  EXPECT_THAT(errors[0].GetErrorStr(), StartsWith("Combinazione 'A': "));
+  // The sign is switched after the springs only.
+  EXPECT_DOUBLE_EQ(solver.data.loadCombs[0].seismic.coefficients[1], 0.0);
+}
+
+TEST_F(Run, KeepsTheWordsOfThePrefixInEveryLanguage) {
+  ASSERT_TRUE(ostrel::set_language("en"));
+  xSheetpilingData data = standing_wall().combination(unfactored("A")).build();
+  data.springIntervals.clear();
+  EXPECT_EQ(run(data), veldError);
+  EXPECT_THAT(errors[0].GetErrorStr(), StartsWith("Combinazione 'A': "));
+  EXPECT_THAT(errors[0].MakeErrStr(), StartsWith("Error: Combinazione 'A': "));
+}
+
+TEST_F(Run, KeepsTheMessagesThatWereThere) {
+  errors.emplace_back(std::string("before"), 1, xVeldError::typeError);
+  EXPECT_EQ(run(standing_wall().combination(unfactored("A")).build()), veldNothing);
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_EQ(xVeldError::getWorstErr(errors), veldError);
+}
+
+TEST_F(Run, SwitchesTheVerticalSeismicCoefficientForGood) {
+  xLoadComb comb = unfactored("S");
+  comb.seismic.coefficients = {0.2, 0.1};
+  const xSheetpilingData data = standing_wall().combination(comb).build();
+  ASSERT_EQ(run(data), veldNothing);
+  EXPECT_DOUBLE_EQ(solver.data.loadCombs[0].seismic.coefficients[0], 0.2);
+  EXPECT_DOUBLE_EQ(solver.data.loadCombs[0].seismic.coefficients[1], -0.1);
+  EXPECT_DOUBLE_EQ(data.loadCombs[0].seismic.coefficients[1], 0.1);
+}
+
+TEST_F(Run, AppendsToTheResults) {
+  const xSheetpilingData data = standing_wall().combination(unfactored("A")).build();
+  ASSERT_EQ(run(data), veldNothing);
+  solver.reset();
+  ASSERT_EQ(run(data), veldNothing);
+  EXPECT_EQ(results.combResults.size(), 2U);
+}
+
+TEST_F(Run, SharesTheWallAndDoesNotWriteToIt) {
+  const xSheetpilingData data = standing_wall().combination(unfactored("A")).build();
+  ASSERT_EQ(run(data), veldNothing);
+  EXPECT_EQ(solver.data.props.get(), data.props.get());
+  EXPECT_DOUBLE_EQ(data.props->getLength(), 12000.0);
+}
+
+TEST(Solver, HasTheDefaultOptionsWhenNew) {
+  const xSolver solver;
+  EXPECT_FALSE(solver.femOptions.linear);
+  EXPECT_DOUBLE_EQ(solver.femOptions.tolerance, 0.001);
+  EXPECT_EQ(solver.femOptions.maxIterations, 100);
+  EXPECT_FALSE(solver.data.props.valid());
+}
+
+TEST(Solver, ResetLeavesTheOptionsAlone) {
+  xSolver solver;
+  solver.femOptions.maxIterations = 5;
+  solver.data = standing_wall().build();
+  solver.model.layers.resize(1);
+  solver.reset();
+  EXPECT_EQ(solver.femOptions.maxIterations, 5);
+  EXPECT_FALSE(solver.data.props.valid());
+  EXPECT_TRUE(solver.model.layers.empty());
+}
+
+TEST(Solver, CopiesAndMovesAllItsMembers) {
+  xSolver solver;
+  solver.femOptions.tolerance = 0.5;
+  solver.data = standing_wall().build();
+  solver.model.layers.resize(2);
+  xSolver copy = solver;
+  EXPECT_DOUBLE_EQ(copy.femOptions.tolerance, 0.5);
+  EXPECT_EQ(copy.model.layers.size(), 2U);
+  EXPECT_EQ(copy.data.props, solver.data.props);
+  const xSolver moved = std::move(copy);
+  EXPECT_EQ(moved.model.layers.size(), 2U);
+  EXPECT_EQ(moved.data.soilLayers.size(), solver.data.soilLayers.size());
+}
+
+}  // namespace
