@@ -20,8 +20,6 @@
 class OSTREL_API NodeModulus {
 public:
   /// @name Persisted object, version 1
-  /// @oddity The passive limit is not stored: a record that is read keeps the one it had, so the
-  /// springs of a result that was read back have none, and with the types 1 and 2 no limit but 0.
   ///@{
   virtual std::string getIOClass() const;
   virtual void pub_read(instream& in);
@@ -61,8 +59,11 @@ public:
   std::int32_t node = -1;        ///< index of the node in the beam
   double position = 0.0;         ///< depth of the node below the wall's head [mm]
   double ultimate_limit = 25.4;  ///< displacement at the limit load [mm]
-  double passive_limit = 0.0;    ///< displacement at the passive pressure [mm]
-  double modulus = 0.0;          ///< pressure by displacement [N/mm³]
+  /// Displacement at the passive pressure [mm].
+  /// @oddity It is not stored: a record that is read keeps the one it had. The springs of a result
+  /// that was read back have 0, and so with the types 1 and 2 the limit 0.
+  double passive_limit = 0.0;
+  double modulus = 0.0;  ///< pressure by displacement [N/mm³]
 
 private:
   friend struct ostrel::FrameAccess;
@@ -116,7 +117,8 @@ public:
   /// @param theta      inclination of the wall's back to the vertical [rad]
   /// @param intervals  limit and factor of each stretch of the embedded length
   /// @param factor_type, factors  partial factors of the soil, applied to a copy of each layer's
-  /// @param layers     along the wall, from the top down, with their levels
+  /// @param layers     along the wall, from the top down, with their levels; a layer without weight
+  ///                   under another gives springs that are not numbers
   /// @param depth      of the excavation below the wall's head [mm]
   /// @param length     of the wall [mm]
   /// @param spacing    of the piles, the width of the foundation [mm]

@@ -81,6 +81,8 @@ TermFactors inclination_terzaghi(double phi, double c, const InclinedLoad& load,
 ///     Ic = 0.5 (1 + sqrt(1 - H / (A c)))      0.5 for H > A c
 ///
 /// @source EN 1997-1:2004, D.3 and D.4
+/// @oddity A load along the base beyond its strength A c gets 0.5 and is not refused. Stored results
+/// depend on it.
 TermFactors inclination_eurocode7(double phi, double c, const InclinedLoad& load, double Nc);
 ///@}
 

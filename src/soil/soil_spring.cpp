@@ -127,7 +127,7 @@ OstrelErrorType add_springs(const Embedment& wall, const xSoilLayer& layer, doub
     NodeModulus spring = spring_at(wall, design, *interval, foundation.getLimitLoad_Nmmq());
     spring.node = static_cast<std::int32_t>(node);
     spring.position = level;
-    springs.insert_or_assign(spring.node, spring);
+    springs.insert_or_assign(springs.end(), spring.node, spring);
     ++node;
   }
   return ostrel::ok;
