@@ -197,8 +197,9 @@ osg::ref_ptr<xReinfCrossSection> xReinforcement::getAt(double abscissa, double t
 void xReinforcement::deepcopy(const xReinforcement& other) {
   std::vector<osg::ref_ptr<xReinfCrossSection>> copies;
   copies.reserve(other.sections.size());
-  for (const auto& section : other.sections)
+  for (const auto& section : other.sections) {
     copies.emplace_back(section.valid() ? section->clone() : nullptr);
+  }
   sections = std::move(copies);
 }
 

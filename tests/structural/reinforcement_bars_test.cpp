@@ -171,11 +171,11 @@ TEST(EraseArm, LeavesNothingOfWhatIsTakenWhole) {
   EXPECT_EQ(after_erasing(bars(4, 20.0), 5, 20), 0U);
 }
 
-// Ten bars of 20.0001 mm less ten of 20 mm leave 10 * 0.004 / 400 = 1e-4 of a bar; with 20.01 mm
-// it is 10 * 0.4001 / 400.4 = 0.00999 of a bar.
+// Ten bars of 20.0005 mm less ten of 20 mm leave 10 * 0.02 / 400 = 0.0005 of a bar; with 20.002 mm
+// it is 10 * 0.08 / 400 = 0.002 of a bar.
 TEST(EraseArm, TakesUpToAThousandthOfABarAsNoise) {
-  EXPECT_EQ(after_erasing(bars(10, 20.0001), 10, 20), 0U);
-  EXPECT_EQ(after_erasing(bars(10, 20.01), 10, 20), 1U);
+  EXPECT_EQ(after_erasing(bars(10, 20.0005), 10, 20), 0U);
+  EXPECT_EQ(after_erasing(bars(10, 20.002), 10, 20), 1U);
 }
 
 TEST(EraseArm, TakesNothingForANegativeNumber) {

@@ -162,8 +162,9 @@ TEST(SearchStep, TriesNothingWithoutARange) {
 }
 
 TEST(SearchStep, EndsWhereItStandsWhenItCannotCloseUp) {
-  for (const double increment : {0.0, -50.0, 1e-300, not_a_number, -infinity})
+  for (const double increment : {0.0, -50.0, 1e-300, not_a_number, -infinity}) {
     EXPECT_EQ(tried(steps(300.0, 100.0, increment), 0.0), (std::vector{300.0})) << increment;
+  }
   EXPECT_EQ(tried(steps(infinity, 100.0, 50.0), 0.0), (std::vector{infinity}));
 }
 
