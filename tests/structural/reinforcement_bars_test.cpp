@@ -164,9 +164,10 @@ TEST(EraseArm, RoundsWhatIsLeftUp) {
 
 TEST(EraseArm, LeavesNothingOfWhatIsTakenWhole) {
   for (const int diameter : {6, 14, 16, 20, 22, 26}) {
-    for (int number = 1; number <= 200; ++number)
+    for (int number = 1; number <= 200; ++number) {
       EXPECT_EQ(after_erasing(bars(static_cast<std::uint32_t>(number), diameter), number, diameter),
                 0U);
+    }
   }
   EXPECT_EQ(after_erasing(bars(4, 20.0), 5, 20), 0U);
 }

@@ -93,8 +93,9 @@ TEST(ReinforcementSettings, AreMadeByTheirClassName) {
       xReinforcement_Settings::newSett("xRectReinfSettings");
   ASSERT_TRUE(rectangular.valid());
   EXPECT_EQ(rectangular->getIOClass(), "xRectReinfSettings");
-  for (const char* name : {"xReinforcement_Settings", "xrectReinfSettings", "NullIoClass", ""})
+  for (const char* name : {"xReinforcement_Settings", "xrectReinfSettings", "NullIoClass", ""}) {
     EXPECT_EQ(xReinforcement_Settings::newSett(name), nullptr) << name;
+  }
 }
 
 TEST(ReinforcementSettings, ResetEverything) {
@@ -122,8 +123,9 @@ TEST(ReinforcementSettings, AreStoredNumbersFirst) {
 
 TEST(ReinforcementSettings, BeforeTheFourthVersionAreRefused) {
   xReinforcement_Settings settings;
-  for (const int version : {1, 2, 3})
+  for (const int version : {1, 2, 3}) {
     EXPECT_EQ(refused_version(settings, version, stored(settings)), version);
+  }
 }
 
 TEST(ReinforcementSettings, CloneByValueWithTheirClass) {
@@ -226,8 +228,9 @@ TEST(CircularReinfSettings, AreStoredBaseFirst) {
 
 TEST(CircularReinfSettings, BeforeTheThirdVersionAreRefused) {
   xCircularReinfSettings settings;
-  for (const int version : {1, 2})
+  for (const int version : {1, 2}) {
     EXPECT_EQ(refused_version(settings, version, stored(settings)), version);
+  }
 }
 
 TEST(ReinforcementSettings, ComeBackAsTheyWereStored) {

@@ -38,14 +38,16 @@ TEST(RoundedUp, KeepsALargeMultipleThatRoundingMoved) {
 }
 
 TEST(RoundedUp, GivesNothingForWhatIsNotPositive) {
-  for (const double quotient : {0.0, -0.0, -1.0, -infinity, not_a_number})
+  for (const double quotient : {0.0, -0.0, -1.0, -infinity, not_a_number}) {
     EXPECT_EQ(rounded_up(quotient), 0U) << quotient;
+  }
 }
 
 TEST(RoundedUp, StopsAtTheLargestNumber) {
   EXPECT_EQ(rounded_up(4294967294.0), 4294967294U);
-  for (const double quotient : {4294967295.0, 4294967296.0, 1e300, infinity})
+  for (const double quotient : {4294967295.0, 4294967296.0, 1e300, infinity}) {
     EXPECT_EQ(rounded_up(quotient), 4294967295U) << quotient;
+  }
 }
 
 TEST(Truncated, DropsTheDecimals) {
