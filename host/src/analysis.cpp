@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "analysis.h"
+
+#include <ostrel/solver.h>
+
+#include <utility>
+
+namespace ostrel::host {
+
+Outcome analyse(const Job& job) {
+  xSolver solver;
+  solver.data = job.data;
+  solver.femOptions = job.fem;
+  Outcome outcome;
+  outcome.verdict =
+      solver.solve(outcome.results, outcome.ultimate, outcome.serviceability, outcome.messages);
+  outcome.model = std::move(solver.model);
+  return outcome;
+}
+
+}  // namespace ostrel::host

@@ -1,0 +1,38 @@
+#pragma once
+/// @file  One analysis, from its input to all that came of it. Room: host
+// SPDX-License-Identifier: Apache-2.0
+
+#include <ostrel/error.h>
+#include <ostrel/fem_solver.h>
+#include <ostrel/results.h>
+#include <ostrel/serviceability.h>
+#include <ostrel/sheetpiling_data.h>
+#include <ostrel/sheetpiling_model.h>
+#include <ostrel/ultimate_limit_states.h>
+
+#include <string>
+#include <vector>
+
+namespace ostrel::host {
+
+/// What the library needs for a run, in its own units.
+struct Job {
+  std::string name;
+  xSheetpilingData data;
+  xFemSolverOptions fem;
+};
+
+/// What a run left behind.
+struct Outcome {
+  xVeldErrorsType verdict = veldNothing;  ///< `veldError` when the run did not go through
+  std::vector<xVeldError> messages;
+  xSheetpilingModel model;  ///< ground and beam
+  xSheetpilingRes results;  ///< of the combinations that were solved
+  xUltimateLimitStates ultimate;
+  xServiceabilityLimitStates serviceability;
+};
+
+/// Runs the analysis. The job stays as it is: the run works on a copy.
+Outcome analyse(const Job& job);
+
+}  // namespace ostrel::host
