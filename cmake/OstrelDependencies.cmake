@@ -1,7 +1,16 @@
 # The libraries that appear in the public headers, as imported targets. This file serves the build
 # and is installed beside the package configuration, which includes it.
 
-find_package(Armadillo 11 REQUIRED)
+# The build stops without one of them; a package configuration says that it cannot be used.
+macro(ostrel_need)
+  if(CMAKE_FIND_PACKAGE_NAME STREQUAL "Ostrel")
+    find_dependency(${ARGN})
+  else()
+    find_package(${ARGN} REQUIRED)
+  endif()
+endmacro()
+
+ostrel_need(Armadillo 11)
 if(NOT TARGET Ostrel::Armadillo)
   add_library(Ostrel::Armadillo INTERFACE IMPORTED)
   set_target_properties(Ostrel::Armadillo PROPERTIES
@@ -9,7 +18,7 @@ if(NOT TARGET Ostrel::Armadillo)
     INTERFACE_LINK_LIBRARIES "${ARMADILLO_LIBRARIES}")
 endif()
 
-find_package(OpenSceneGraph 3.6 REQUIRED)
+ostrel_need(OpenSceneGraph 3.6)
 if(NOT TARGET Ostrel::OpenSceneGraph)
   add_library(Ostrel::OpenSceneGraph INTERFACE IMPORTED)
   set_target_properties(Ostrel::OpenSceneGraph PROPERTIES
