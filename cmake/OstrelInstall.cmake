@@ -23,6 +23,7 @@ install(FILES "${PROJECT_BINARY_DIR}/OstrelConfig.cmake"
 
 file(RELATIVE_PATH prefix_from_pkgconfig "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig"
      "${CMAKE_INSTALL_PREFIX}")
+string(REGEX REPLACE "/$" "" prefix_from_pkgconfig "${prefix_from_pkgconfig}")
 file(RELATIVE_PATH libdir_from_prefix "${CMAKE_INSTALL_PREFIX}" "${CMAKE_INSTALL_FULL_LIBDIR}")
 file(RELATIVE_PATH includedir_from_prefix "${CMAKE_INSTALL_PREFIX}"
      "${CMAKE_INSTALL_FULL_INCLUDEDIR}")

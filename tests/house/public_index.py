@@ -35,6 +35,11 @@ _OPENING = re.compile(
     r"(?P<type>[A-Za-z_]\w*)\s*(?:final\s*)?(?::[^;{}]*)?\{"
     r"|[{}]"
 )
+# Template arguments that headers leave to the default, from the comma on.
+_DEFAULT = re.compile(r", std::(?:allocator|char_traits|default_delete|less)<")
+
+# What the compiler and the linker add to the functions and data of the sources.
+_MACHINERY = re.compile(r"_init$|_fini$|_edata$|_end$|__bss_start$|typeinfo |.*\bthunk to ")
 
 
 class PublicClass(NamedTuple):
@@ -111,26 +116,29 @@ def index_text(root: Path) -> str:
     return "\n".join(lines) + "\n"
 
 
+def without_defaults(symbol: str) -> str:
+    """A demangled name without the template arguments that headers leave to the default."""
+    while start := _DEFAULT.search(symbol):
+        end, depth = start.end(), 1
+        while depth:
+            depth += {"<": 1, ">": -1}.get(symbol[end], 0)
+            end += 1
+        symbol = symbol[: start.start()] + symbol[end:]
+    return symbol
+
+
 def readable(symbol: str) -> str:
     """A demangled name in the words of the headers."""
-    symbol = symbol.replace("std::__cxx11::", "std::").replace("std::__1::", "std::")
-    symbol = re.sub(
-        r"std::basic_string<char, std::char_traits<char>, std::allocator<char> ?>",
-        "std::string",
-        symbol,
-    )
-    symbol = re.sub(r"\[abi:\w+\]", "", symbol)
-    return re.sub(r" (?=>)", "", symbol)
+    symbol = re.sub(r"\b__cxx11::|\b__1::|\[abi:\w+\]", "", symbol)
+    symbol = re.sub(r" (?=>)", "", without_defaults(symbol))
+    return symbol.replace("std::basic_string<char>", "std::string")
 
 
 def exported(listing: str) -> list[str]:
     """The lasting symbols in what nm prints: one line each, sorted."""
-    found = set()
-    for line in listing.splitlines():
-        kind, name = re.fullmatch(r"\S*\s+(\S) (.*)", line).groups()
-        if kind in "TDBRG" and name not in ("_init", "_fini") and not name.startswith("typeinfo"):
-            found.add(readable(name))
-    return sorted(found)
+    entries = (re.fullmatch(r"\S*\s+(\S) (.*)", line) for line in listing.splitlines())
+    names = {entry[2] for entry in entries if entry and entry[1] in "TDBRG"}
+    return sorted({readable(name) for name in names if not _MACHINERY.match(name)})
 
 
 def symbols_text(library: Path, nm: str) -> str:

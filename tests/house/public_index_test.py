@@ -102,6 +102,10 @@ class Symbols(unittest.TestCase):
             "0000000000001234 R typeinfo name for xWall\n"
             "0000000000001234 T _init\n"
             "0000000000001234 T _fini\n"
+            "0000000000001234 B __bss_start\n"
+            "0000000000001234 D _edata\n"
+            "0000000000001234 B _end\n"
+            "0000000000001234 T non-virtual thunk to xWall::~xWall()\n"
         )
         self.assertEqual(public_index.exported(listing), [])
 
@@ -109,16 +113,21 @@ class Symbols(unittest.TestCase):
         line = "0000000000001234 T xWall::xWall()\n"
         self.assertEqual(public_index.exported(line + line), ["xWall::xWall()"])
 
-    def test_strings_read_as_in_the_headers(self):
-        name = (
-            "f(std::vector<std::__cxx11::basic_string<char, std::char_traits<char>, "
-            "std::allocator<char> >, std::allocator<std::__cxx11::basic_string<char, "
-            "std::char_traits<char>, std::allocator<char> > > >&)"
-        )
-        self.assertEqual(
-            public_index.readable(name),
-            "f(std::vector<std::string, std::allocator<std::string>>&)",
-        )
+    def test_names_read_as_in_the_headers(self):
+        string = "std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >"
+        cases = {
+            f"f[abi:cxx11]({string} const&)": "f(std::string const&)",
+            f"f(std::vector<{string}, std::allocator<{string} > >&)": "f(std::vector<std::string>&)",
+            "f(std::map<int, xRow, std::less<int>, std::allocator<std::pair<int const, xRow> > >)":
+                "f(std::map<int, xRow>)",
+            "f(std::vector<arma::Col<double>::fixed<2ul>, "
+            "std::allocator<arma::Col<double>::fixed<2ul> > > const&)":
+                "f(std::vector<arma::Col<double>::fixed<2ul>> const&)",
+            "xRow::operator<(xRow const&) const": "xRow::operator<(xRow const&) const",
+            "xRow::operator>(xRow const&) const": "xRow::operator>(xRow const&) const",
+        }
+        for symbol, words in cases.items():
+            self.assertEqual(public_index.readable(symbol), words)
 
 
 if __name__ == "__main__":
