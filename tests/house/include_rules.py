@@ -37,7 +37,7 @@ STANDS_ON = {
 # A room that stands on one part of another may include the headers named here, and what that
 # other room stands on.
 PARTS_OF = {
-    "soil": {"geotech": ("bearing_capacity*.h",)},
+    "soil": {"geotech": ("bearing_capacity*.h", "foundation_bearing*.h")},
     "fem": {"soil": ("*spring*.h",)},
     "structural": {"fem": ("*results*.h",)},
     "anchors": {"structural": ("*check_frame*.h",), "fem": ("*results*.h",)},
