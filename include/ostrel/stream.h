@@ -114,8 +114,9 @@ void read_vec_refptr(std::vector<osg::ref_ptr<T>>& list, instream& in, const Fac
 template <class T>
 void write_vec_refptr(const std::vector<osg::ref_ptr<T>>& list, outstream& out) {
   std::size_t count = 0;
-  for (const auto& object : list)
+  for (const auto& object : list) {
     count += object.valid() ? 1 : 0;
+  }
   ostrel::write_count(count, out);
   for (const auto& object : list) {
     if (!object) continue;

@@ -5,8 +5,9 @@ namespace ostrel::fem {
 
 std::vector<std::uint32_t> element_dofs(std::uint32_t element) {
   std::vector<std::uint32_t> dofs(dofs_per_element);
-  for (std::uint32_t k = 0; k < dofs_per_element; ++k)
+  for (std::uint32_t k = 0; k < dofs_per_element; ++k) {
     dofs[k] = dofs_per_node * element + k;
+  }
   return dofs;
 }
 
@@ -47,8 +48,9 @@ arma::Col<double> equivalent_nodal_loads(const PressAtEnds& load, double length)
 void add_at_dofs(const arma::Mat<double>& element_matrix, const std::vector<std::uint32_t>& dofs,
                  arma::Mat<double>& beam_matrix) {
   for (std::uint32_t j = 0; j < dofs_per_element; ++j) {
-    for (std::uint32_t i = 0; i < dofs_per_element; ++i)
+    for (std::uint32_t i = 0; i < dofs_per_element; ++i) {
       beam_matrix(dofs[i], dofs[j]) += element_matrix(i, j);
+    }
   }
 }
 

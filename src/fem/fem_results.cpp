@@ -128,8 +128,9 @@ OstrelErrorType xFemResults::getData(const xSheetpilingData& data,
   if (const auto code = fill_applied_forces(*this, fem, raw); code != ostrel::ok) return code;
 
   anchorSoll.resize(anchors.size());
-  for (std::size_t i = 0; i < anchors.size(); ++i)
+  for (std::size_t i = 0; i < anchors.size(); ++i) {
     getAnchorDiag(data, anchorSoll[i], anchors[i]);
+  }
   return ostrel::ok;
 }
 

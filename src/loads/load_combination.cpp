@@ -48,8 +48,9 @@ void xLoadComb::reset() {
 
 void xLoadComb::initChecks(std::map<pCheckTypes, bool>& wanted) {
   wanted.clear();
-  for (const auto& [type, text] : *xGetChecksTypeMap())
+  for (const auto& [type, text] : *xGetChecksTypeMap()) {
     wanted[type] = false;
+  }
 }
 
 bool xLoadComb::checkActive(pCheckTypes type) const {
@@ -96,6 +97,7 @@ std::vector<SupportedSoilLoadItem>* getSupportedCarchiTerrenoClass() {
 void getSupportedCarchiTerrenoClass(
     std::map<SupportedSoilLoadItem::TypeGroup, SupportedSoilLoadItem*>& items) {
   items.clear();
-  for (SupportedSoilLoadItem& item : *getSupportedCarchiTerrenoClass())
+  for (SupportedSoilLoadItem& item : *getSupportedCarchiTerrenoClass()) {
     items[item.group] = &item;
+  }
 }

@@ -59,8 +59,9 @@ void mesh_layers(const std::vector<xSoilLayer>& layers, const xPile_Sheetpiling&
 // The first node within the tolerance of the excavation, -1 for none.
 std::int32_t excavation_node(const xFemData& beam, double excavation) {
   for (std::size_t n = 0; n < beam.nodes.size(); ++n) {
-    if (std::abs(excavation - beam.nodes[n].y) < place_tolerance)
+    if (std::abs(excavation - beam.nodes[n].y) < place_tolerance) {
       return static_cast<std::int32_t>(n);
+    }
   }
   return -1;
 }
@@ -75,8 +76,9 @@ std::vector<info_Fem_anchor> link_anchors(const std::vector<xAnchor>& anchors, s
     links.push_back(ostrel::model::anchor_link(anchor, index, piles));
     find_or_make_node(anchor.z, place_tolerance, beam, layers);
   }
-  for (info_Fem_anchor& link : links)
+  for (info_Fem_anchor& link : links) {
     link.node = find_place(beam, -link.level, place_tolerance).node;
+  }
   return links;
 }
 
@@ -88,10 +90,12 @@ OstrelErrorType xSheetpilingModel::create_FemModel(xSheetpilingData* data) {
 
   clear_beam(fem);
   mesh_layers(layers, *wall, fem);
-  for (const xConstraint& constraint : data->restriction.imposed)
+  for (const xConstraint& constraint : data->restriction.imposed) {
     applyConstraints(kind_imposed, constraint);
-  for (const xConstraint& constraint : data->restriction.springs)
+  }
+  for (const xConstraint& constraint : data->restriction.springs) {
     applyConstraints(kind_spring, constraint);
+  }
   anchors = link_anchors(data->anchors, wall->getNumPiles(), fem, layers);
 
   const std::int32_t node = excavation_node(fem, wall->getDepth());

@@ -20,8 +20,9 @@ double depth_of(const xFemData& beam, std::int32_t node) {
 // Raises every key from `first` on by one.
 void shift_keys(std::int32_t first, std::map<std::int32_t, double>& entries) {
   std::map<std::int32_t, double> shifted;
-  for (const auto& [key, value] : entries)
+  for (const auto& [key, value] : entries) {
     shifted.emplace_hint(shifted.end(), key < first ? key : key + 1, value);
+  }
   entries.swap(shifted);
 }
 

@@ -11,11 +11,13 @@ namespace {
 // constraints [mm].
 std::vector<double> levels_of(const xSheetpilingData& data) {
   std::vector<double> levels{data.props->getDepth(), data.props->getLength()};
-  for (const xAnchor& anchor : data.anchors)
+  for (const xAnchor& anchor : data.anchors) {
     levels.push_back(anchor.z);
+  }
   for (const auto* constraints : {&data.restriction.imposed, &data.restriction.springs}) {
-    for (const xConstraint& constraint : *constraints)
+    for (const xConstraint& constraint : *constraints) {
       levels.push_back(constraint.getPosition());
+    }
   }
   return levels;
 }

@@ -30,8 +30,9 @@ void xBoundSoilLayer::Read(instream& in, int) {
 void xBoundSoilLayer::Write(outstream& out) const {
   ostrel::write_fields(out, soil);
   ostrel::write_count(polygons.size(), out);
-  for (const auto& polygon : polygons)
+  for (const auto& polygon : polygons) {
     write_vec(polygon, out);
+  }
   ostrel::write_fields(out, Angle);
 }
 

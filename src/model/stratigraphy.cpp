@@ -58,8 +58,9 @@ std::vector<double> cut_depths(const std::vector<double>& levels) {
 std::vector<double> snap_elevations(const std::vector<double>& levels, const xWaterTable& water) {
   std::vector<double> elevations;
   elevations.reserve(levels.size() + 2);
-  for (const double depth : levels)
+  for (const double depth : levels) {
     elevations.push_back(-depth);
+  }
   elevations.push_back(0.0);
   elevations.push_back(water.getLivelloMonte());
   return sorted_numbers(elevations);
@@ -137,8 +138,9 @@ OstrelErrorType build_column(const std::vector<xBoundSoilLayer>& layers, const x
     xSoilLayer layer = uncut_layer(source, *borders, step);
     levels_taken += level_bound(layer, cuts);
     if (!(levels_taken <= most_levels)) return errStratigraphy;
-    for (const double depth : cuts)
+    for (const double depth : cuts) {
       split_layer(depth, water, layer, column);
+    }
     insert_water_table(water, layer, column);
   }
   return ok;

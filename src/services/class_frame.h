@@ -114,8 +114,9 @@ concept Persisted = requires(T& object, instream& in) {
 template <class AppendOne>
 void read_counted(instream& in, const AppendOne& append_one) {
   const int count = read_count(in);
-  for (int i = 0; i < count; ++i)
+  for (int i = 0; i < count; ++i) {
     append_one();
+  }
 }
 
 /// @name One field, read
@@ -194,8 +195,9 @@ void write_field(outstream& out, BaseFrame<const Base> base) {
 template <Persisted T>
 void write_field(outstream& out, const std::vector<T>& list) {
   write_count(list.size(), out);
-  for (const T& object : list)
+  for (const T& object : list) {
     object.pub_write(out);
+  }
 }
 
 template <Persisted T>

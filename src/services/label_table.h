@@ -23,8 +23,9 @@ template <class Key>
 std::map<Key, std::string>* fill_once(std::map<Key, std::string>& table,
                                       std::initializer_list<std::pair<Key, const char*>> rows) {
   if (table.empty()) {
-    for (const auto& [key, text] : rows)
+    for (const auto& [key, text] : rows) {
       table.emplace(key, label(text));
+    }
   }
   return &table;
 }

@@ -160,8 +160,9 @@ void read_vec(std::vector<arma::Col<double>::fixed<2>>& points, instream& in) {
 
 void write_vec(const std::vector<arma::Col<double>::fixed<2>>& points, outstream& out) {
   ostrel::write_count(points.size(), out);
-  for (const auto& point : points)
+  for (const auto& point : points) {
     out << point[0] << point[1];
+  }
 }
 
 namespace ostrel {

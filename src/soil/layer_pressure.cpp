@@ -135,16 +135,18 @@ void xLayerPress::Write(outstream& out) const {
 void packLayerPress(std::vector<xLayerPress>& list) {
   if (list.size() < 2) return;
   for (xLayerPress& entry : list) {
-    for (diag_Point& point : entry.points)
+    for (diag_Point& point : entry.points) {
       point.s += -entry.start.y;
+    }
   }
   xLayerPress& whole = list.front();
   whole.end = list.back().end;
   for (std::size_t i = 1; i < list.size(); ++i) {
     whole.points.insert(whole.points.end(), list[i].points.begin(), list[i].points.end());
   }
-  for (diag_Point& point : whole.points)
+  for (diag_Point& point : whole.points) {
     point.s -= -whole.start.y;
+  }
   whole.computeResultant(0.0);
   list.erase(list.begin() + 1, list.end());
 }

@@ -23,8 +23,9 @@ xLoadPress over_layers(const xObjectID& load, double theta, const std::vector<xS
     if (!ostrel::soil::begins_above(layer, depth)) break;
     const auto value_at = law_of(layer, ostrel::soil::slope_ratio(theta, layer.getAngle()));
     xLayerPress diagram = ostrel::soil::empty_diagram(layer);
-    for (const double z : layer.levels)
+    for (const double z : layer.levels) {
       diagram.points.emplace_back(z - layer.getDepth(), value_at(z));
+    }
     diagram.computeResultant(layer.getAngle());
     press.diagrams.push_back(std::move(diagram));
   }

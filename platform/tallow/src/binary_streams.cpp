@@ -16,7 +16,7 @@ static_assert(sizeof(int) == 4 && sizeof(double) == 8 && std::numeric_limits<dou
 namespace {
 
 // A string of a claimed length grows in steps of this size, as its bytes arrive.
-constexpr std::size_t string_step = 64 * 1024;
+constexpr std::size_t string_step = std::size_t{64} * 1024;
 
 // Takes the exceptions mask off a stream and puts it back: the typed operations throw exceptions of
 // their own, which say more.
@@ -53,8 +53,9 @@ std::array<char, size> to_wire(std::uint64_t bits) {
 template <std::size_t size>
 std::uint64_t from_wire(const std::array<char, size>& bytes) {
   std::uint64_t bits = 0;
-  for (std::size_t i = size; i-- > 0;)
+  for (std::size_t i = size; i-- > 0;) {
     bits = bits << 8U | static_cast<unsigned char>(bytes[i]);
+  }
   return bits;
 }
 

@@ -74,12 +74,12 @@ bool unregisterClass(const std::string& name, const std::string& parent) {
   return std::erase(registry.kinships, Kinship{name, parent}) > 0;
 }
 
-bool getChildrenClassesList(const char* rootClass, std::vector<std::string>& list, int levels) {
+bool getChildrenClassesList(const char* root_class, std::vector<std::string>& list, int levels) {
   std::vector<std::string> found;
-  if (rootClass) {
+  if (root_class) {
     Registry& registry = ::registry();
     const std::lock_guard lock(registry.mutex);
-    found = classes_below(registry.kinships, rootClass, levels);
+    found = classes_below(registry.kinships, root_class, levels);
   }
   list = std::move(found);
   return !list.empty();

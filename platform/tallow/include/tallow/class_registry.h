@@ -18,12 +18,12 @@ TALLOW_API bool registerClass(const std::string& name, const std::string& parent
 /// Takes the pair out again. @return false when it was not there
 TALLOW_API bool unregisterClass(const std::string& name, const std::string& parent);
 
-/// Fills `list` with the classes below `rootClass`, in the order of their registration, nearer
+/// Fills `list` with the classes below `root_class`, in the order of their registration, nearer
 /// generations first, each once; what `list` held before is gone.
 /// @param levels  how many generations: 1 the children alone, 2 their children too, ...; less than
 ///                1 gives none
 /// @return true when the list is not empty; false also for a null or unknown root
-TALLOW_API bool getChildrenClassesList(const char* rootClass, std::vector<std::string>& list,
+TALLOW_API bool getChildrenClassesList(const char* root_class, std::vector<std::string>& list,
                                        int levels);
 
 }  // namespace Tallow
