@@ -1,15 +1,17 @@
-# ostrel_run(arguments of execute_process...)  runs a command and stops with its words if it fails.
-macro(ostrel_run)
-  execute_process(${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+# ostrel_run(arguments of execute_process...)
+#   Runs a command, which must succeed, and leaves what it printed in `output`.
+function(ostrel_run)
+  execute_process(${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE printed ERROR_VARIABLE errors)
   if(NOT result EQUAL 0)
-    message(FATAL_ERROR "${ARGV}\n${output}${errors}(${result})")
+    message(FATAL_ERROR "${ARGV}\n${printed}${errors}(${result})")
   endif()
-endmacro()
+  set(output "${printed}" PARENT_SCOPE)
+endfunction()
 
 # ostrel_expect(file)  compares what the last command printed with the text of a file.
-macro(ostrel_expect file)
+function(ostrel_expect file)
   file(READ "${file}" expected)
   if(NOT output STREQUAL expected)
     message(FATAL_ERROR "Expected:\n${expected}\nPrinted:\n${output}")
   endif()
-endmacro()
+endfunction()
