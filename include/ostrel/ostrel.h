@@ -17,6 +17,7 @@
 #include "ostrel/calc_settings.h"
 #include "ostrel/diagram.h"
 #include "ostrel/embankment_surface.h"
+#include "ostrel/fem_data.h"
 #include "ostrel/identity.h"
 #include "ostrel/restriction.h"
 #include "ostrel/sheetpiling_data.h"
@@ -41,8 +42,7 @@
 #include "ostrel/soil_spring.h"
 #include "ostrel/spring_interval.h"
 
-// Beam: its equations, their solution and the diagrams.
-#include "ostrel/fem_data.h"
+// Fem: the equations of the beam, their solution and the diagrams.
 #include "ostrel/fem_load.h"
 #include "ostrel/fem_results.h"
 #include "ostrel/fem_solver.h"
@@ -54,7 +54,7 @@
 // Anchors: tendons, bulbs and their links to the beam.
 #include "ostrel/anchor.h"
 
-// Structure: the frame of the verifications and the reinforced concrete wall.
+// Structural: the frame of the verifications and the reinforced concrete wall.
 #include "ostrel/check_frame.h"
 #include "ostrel/check_settings.h"
 #include "ostrel/materials.h"
@@ -64,7 +64,7 @@
 #include "ostrel/section_check.h"
 #include "ostrel/ultimate_limit_states.h"
 
-// Ground: bearing capacities and the verifications of the soil.
+// Geotech: bearing capacities and the verifications of the soil.
 #include "ostrel/foundation_bearing.h"
 #include "ostrel/pile_bearing_settings.h"
 #include "ostrel/serviceability.h"

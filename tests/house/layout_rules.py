@@ -133,8 +133,8 @@ def umbrella_faults(root: Path) -> list[str]:
         return [f"{umbrella}: is missing"]
     text = (root / umbrella).read_text(encoding="utf-8")
     listed = [include.name for include in includes_of(text)]
-    there = {f"ostrel/{f.name}" for f in (root / "include/ostrel").glob("*.h")}
-    missing = there - {"ostrel/ostrel.h"} - set(listed)
+    headers = {f"ostrel/{f.name}" for f in (root / "include/ostrel").glob("*.h")}
+    missing = headers - {"ostrel/ostrel.h"} - set(listed)
     repeated = {name for name in listed if listed.count(name) > 1}
     found = [f"{umbrella}: does not include {name}" for name in sorted(missing)]
     found += [f"{umbrella}: includes {name} twice" for name in sorted(repeated)]
@@ -142,23 +142,29 @@ def umbrella_faults(root: Path) -> list[str]:
 
 
 def unexplained_rooms(root: Path, text: str) -> list[str]:
-    """Lists of headers that do not stand under a line "// room: a sentence." of their room."""
+    """Lists of headers that do not stand under a line "// Room: a sentence." of their room."""
     found, done = [], set()
     for block in re.finditer(r"((?:^//.*\n)*)((?:^#include.*\n)+)", text, re.MULTILINE):
         comment = " ".join(line.lstrip("/ ") for line in block[1].splitlines())
-        sentence = re.fullmatch(r"(\w+): .+\.", comment)
-        headers = [i.name for i in includes_of(block[2])]
-        if not sentence:
-            found.append(f"{headers[0]} stands under no line of the form // room: a sentence.")
+        names = [include.name for include in includes_of(block[2])]
+        rooms = {name: room_told(root, f"include/{name}") for name in names if there(root, name)}
+        if not comment.endswith("."):
+            found.append(f"{names[0]} stands under no sentence")
             continue
-        if sentence[1] in done:
-            found.append(f"{headers[0]} begins a second list of {sentence[1]}")
-        done.add(sentence[1])
-        for name in headers:
-            room = room_told(root, f"include/{name}") if (root / "include" / name).is_file() else "-"
-            if room not in ("-", sentence[1]):
-                found.append(f"{name} belongs to {room}, not to {sentence[1]}")
+        if set(rooms.values()) == {"-"}:
+            continue
+        told = comment.split(":")[0].lower()
+        if told in done:
+            found.append(f"{names[0]} begins a second list of {told}")
+        done.add(told)
+        strange = [(name, room) for name, room in rooms.items() if room != told]
+        found += [f"{name} belongs to {room}, not to {told}" for name, room in strange]
     return found
+
+
+def there(root: Path, name: str) -> bool:
+    """True for a name in an #include that is a public header."""
+    return (root / "include" / name).is_file()
 
 
 def main(arguments: list[str]) -> int:

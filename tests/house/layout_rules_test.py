@@ -116,10 +116,13 @@ class LayoutRules(TemporaryTreeTest):
             self.assert_broken(layout_rules.sources_without_test(self.root), "is there")
 
     def umbrella(self, *lines: str) -> list[str]:
-        """The faults of an ostrel.h of these lines, beside a header of soil and one of fem."""
+        """The faults of an ostrel.h of these lines behind the version, for a room soil and one fem."""
         self.header("include/ostrel/spring.h", "soil")
         self.header("include/ostrel/beam.h", "fem")
-        self.put("include/ostrel/ostrel.h", *lines)
+        technical = "/// @file  The version. Technical header"
+        self.put("include/ostrel/version.h", "#pragma once", technical, LICENCE)
+        first = ("// What the library is called by.", '#include "ostrel/version.h"', "")
+        self.put("include/ostrel/ostrel.h", *first, *lines)
         return layout_rules.umbrella_faults(self.root)
 
     def test_the_header_of_everything_must_be_there(self):
@@ -127,49 +130,49 @@ class LayoutRules(TemporaryTreeTest):
 
     def test_the_header_of_everything_passes(self):
         found = self.umbrella(
-            "// soil: from ground",
+            "// Soil: from ground",
             "// to numbers.",
             '#include "ostrel/spring.h"',
             "",
-            "// fem: the beam.",
+            "// Fem: the beam.",
             '#include "ostrel/beam.h"',
         )
         self.assertEqual(found, [])
 
     def test_the_header_of_everything_leaves_nothing_out(self):
-        found = self.umbrella("// soil: from ground to numbers.", '#include "ostrel/spring.h"')
+        found = self.umbrella("// Soil: from ground to numbers.", '#include "ostrel/spring.h"')
         self.assert_broken(found, "does not include ostrel/beam.h")
 
     def test_the_header_of_everything_repeats_nothing(self):
         found = self.umbrella(
-            "// soil: from ground to numbers.",
+            "// Soil: from ground to numbers.",
             '#include "ostrel/spring.h"',
             '#include "ostrel/spring.h"',
-            "// fem: the beam.",
+            "// Fem: the beam.",
             '#include "ostrel/beam.h"',
         )
         self.assert_broken(found, "includes ostrel/spring.h twice")
 
     def test_the_header_of_everything_has_a_sentence_for_each_room(self):
         found = self.umbrella(
-            '#include "ostrel/spring.h"', "// fem: the beam.", '#include "ostrel/beam.h"'
+            '#include "ostrel/spring.h"', "// Fem: the beam.", '#include "ostrel/beam.h"'
         )
-        self.assert_broken(found, "ostrel/spring.h stands under no line")
+        self.assert_broken(found, "ostrel/spring.h stands under no sentence")
 
     def test_the_header_of_everything_keeps_a_room_together(self):
         found = self.umbrella(
-            "// soil: from ground to numbers.",
+            "// Soil: from ground to numbers.",
             '#include "ostrel/spring.h"',
             '#include "ostrel/beam.h"',
         )
         self.assert_broken(found, "ostrel/beam.h belongs to fem, not to soil")
         self.header("include/ostrel/pressure.h", "soil")
         found = self.umbrella(
-            "// soil: from ground to numbers.",
+            "// Soil: from ground to numbers.",
             '#include "ostrel/spring.h"',
-            "// fem: the beam.",
+            "// Fem: the beam.",
             '#include "ostrel/beam.h"',
-            "// soil: once more.",
+            "// Soil: once more.",
             '#include "ostrel/pressure.h"',
         )
         self.assert_broken(found, "second list of soil")
