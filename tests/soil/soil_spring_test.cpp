@@ -259,6 +259,19 @@ TEST(SoilSprings, AreThoseOfAStripAsWideAsTheSpacing) {
   expect_relative(springs.at(8).passive_limit * springs.at(8).modulus, 0.12);
 }
 
+// Under water 4e-5 - 1e-5 = 3e-5, below the strip and beside it: (0.015 Ng + 0.06 Nq) / 10.
+TEST(SoilSprings, UnderWaterTakeTheBuoyantWeight) {
+  xSoilProps sand;
+  sand.set_InternalFriction(deg30);
+  sand.setSaturatedUnitWeight(4e-5);
+  std::vector<xSoilLayer> layers{layer(4000.0, 10'000.0, sand, {4000.0, 6000.0}),
+                                 layer(10'000.0, 20'000.0, sand, {10'000.0})};
+  layers[0].setUnderWater(true);
+  const double Nq = 18.4011222187087;
+  const double Ng = 38.8022444374174 / std::numbers::sqrt3;
+  expect_relative(Wall{}.springs(layers).at(8).modulus, (0.015 * Ng + 0.06 * Nq) / 10.0);
+}
+
 // Clay of 20 kN/m³ from 4 to 6 m, of 16 kN/m³ and another cohesion from 6 to 10 m.
 std::vector<xSoilLayer> two_clays() {
   return {layer(0.0, 4000.0, clay, {0.0, 4000.0}),
@@ -384,6 +397,13 @@ TEST(SoilSprings, TakeTheIntervalOfTheirRelativeDepth) {
   EXPECT_EQ(springs.at(9).type, xSpringInterval::limitPassive);
   EXPECT_DOUBLE_EQ(springs.at(9).modulus, 3.0 * (clay_load + 0.08) / 10.0);
   EXPECT_EQ(springs.at(10).type, xSpringInterval::limitPassive);
+
+  for (const double end : {1.0 / 3.0, 0.333}) {
+    wall.intervals[0].end = end;
+    wall.intervals[1].start = end;
+    EXPECT_EQ(wall.springs(clay_column()).at(8).type,
+              end < 1.0 / 3.0 ? xSpringInterval::limitPassive : xSpringInterval::limitUltimate);
+  }
 }
 
 TEST(SoilSprings, StopAtANodeWithoutIntervalAndKeepThoseAboveIt) {
