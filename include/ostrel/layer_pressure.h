@@ -152,13 +152,13 @@ public:
 
   /// Appends one diagram for each layer under water above `bottom`.
   ///
-  /// @param waterDepth   depth of the water on the retained side [mm]
+  /// @param water_depth   depth of the water on the retained side [mm]
   /// @param gamma        partial factor [-]
   /// @param layers  from the top down
   /// @param bottom       the first layer that begins below this depth, or at it, ends the list [mm]
   /// @param spacing      of the wall [mm]
   /// @return always 0
-  int computeHydroPress(double waterDepth, double gamma, const std::vector<xSoilLayer>& layers,
+  int computeHydroPress(double water_depth, double gamma, const std::vector<xSoilLayer>& layers,
                         double bottom, double spacing);
 
   std::vector<xLayerPress> diagrams;  ///< one diagram per layer under water

@@ -212,7 +212,7 @@ void xHydrostaticPress::reset() {
   diagrams.clear();
 }
 
-int xHydrostaticPress::computeHydroPress(double waterDepth, double gamma,
+int xHydrostaticPress::computeHydroPress(double water_depth, double gamma,
                                          const std::vector<xSoilLayer>& layers, double bottom,
                                          double spacing) {
   for (const xSoilLayer& layer : layers) {
@@ -220,10 +220,10 @@ int xHydrostaticPress::computeHydroPress(double waterDepth, double gamma,
     if (!layer.getUnderWater()) continue;
     xLayerPress diagram = ostrel::soil::empty_diagram(layer);
     for (const double z : layer.levels) {
-      const double head = z - waterDepth;
+      const double head = z - water_depth;
       diagram.points.emplace_back(
           z - layer.getDepth(),
-          z > waterDepth ? head * spacing * ostrel::model::water_unit_weight * gamma : 0.0);
+          z > water_depth ? head * spacing * ostrel::model::water_unit_weight * gamma : 0.0);
     }
     diagram.computeResultant(layer.getAngle());
     diagrams.push_back(std::move(diagram));

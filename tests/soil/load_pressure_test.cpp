@@ -123,14 +123,18 @@ TEST(LoadPressure, HasADiagramForEachLayerAboveTheExcavationLevel) {
     EXPECT_EQ(press.diagrams[1].start.y, -2500.0);
     EXPECT_THAT(positions_of(press.diagrams[1]), ElementsAre(0.0, 1500.0));
   }
-  for (const xLoadPress& press : from_each_kind({.layers = layers, .depth = 4000.0000009}))
+  for (const xLoadPress& press : from_each_kind({.layers = layers, .depth = 4000.0000009})) {
     EXPECT_THAT(press.diagrams, SizeIs(2));
-  for (const xLoadPress& press : from_each_kind({.layers = layers, .depth = 4000.0000011}))
+  }
+  for (const xLoadPress& press : from_each_kind({.layers = layers, .depth = 4000.0000011})) {
     EXPECT_THAT(press.diagrams, SizeIs(4));
-  for (const xLoadPress& press : from_each_kind({.layers = layers, .depth = std::nan("")}))
+  }
+  for (const xLoadPress& press : from_each_kind({.layers = layers, .depth = std::nan("")})) {
     EXPECT_THAT(press.diagrams, IsEmpty());
-  for (const xLoadPress& press : from_each_kind({.layers = {}}))
+  }
+  for (const xLoadPress& press : from_each_kind({.layers = {}})) {
     EXPECT_THAT(press.diagrams, IsEmpty());
+  }
 }
 
 TEST(LoadPressure, VanishesWithAVerticalCoefficientOfOne) {
@@ -149,8 +153,9 @@ TEST(LoadPressure, IsProportionalToFactorAndLightening) {
   for (std::size_t i = 0; i < plain.size(); ++i) {
     const std::vector<double> expected = values_of(plain[i].diagrams.at(0));
     const std::vector<double> values = values_of(scaled[i].diagrams.at(0));
-    for (std::size_t k = 0; k < expected.size(); ++k)
+    for (std::size_t k = 0; k < expected.size(); ++k) {
       EXPECT_NEAR(values[k], 1.2 * expected[k], 1e-13 * expected[k]) << plain[i].name;
+    }
   }
 }
 
@@ -163,8 +168,8 @@ TEST(LoadPressure, IsTurnedAndRaisedBySlopes) {
   for (std::size_t i = 0; i < level.size(); ++i) {
     const xLayerPress& diagram = sloping[i].diagrams.at(0);
     EXPECT_NEAR(std::atan2(-diagram.Ry, -diagram.Rx), pi / 3.0, 1e-14);
-    const double K_ratio = i == 0 ? 0.75 * 3.0 : 1.0;  // cos²(30°) to 1/3
-    const double expected = 2.0 * K_ratio * level[i].diagrams.at(0).points[1].value;
+    const double k_ratio = i == 0 ? 0.75 * 3.0 : 1.0;  // cos²(30°) to 1/3
+    const double expected = 2.0 * k_ratio * level[i].diagrams.at(0).points[1].value;
     EXPECT_NEAR(diagram.points[1].value, expected, 1e-13 * expected) << level[i].name;
   }
 }
@@ -297,8 +302,9 @@ TEST(PointPressure, IsNotANumberForALoadAtTheWall) {
   const Surroundings around{.layers = level_ground()};
   const xLoadPress press = around.from(localized<xPuntiformLoad>(0.0, 1e5));
   ASSERT_THAT(press.diagrams, SizeIs(1));
-  for (const double value : values_of(press.diagrams[0]))
+  for (const double value : values_of(press.diagrams[0])) {
     EXPECT_TRUE(std::isnan(value));
+  }
 }
 
 // --- Stored forms ---

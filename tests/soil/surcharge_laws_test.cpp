@@ -61,8 +61,9 @@ TEST(StripInfluence, TakesADepthWithinATenthOfAMicrometreAsTheLevelOfTheLoad) {
 
 TEST(LineInfluence, IsTheSameForAllNearLoads) {
   // n = 0.4: 0.203 * 0.4 / (10 * 0.32²) = 0.0812 / 1.024.
-  for (const double position : {0.0, 1.0, 3.9})
+  for (const double position : {0.0, 1.0, 3.9}) {
     EXPECT_NEAR(line_influence(position, 10.0, 4.0), 0.0812 / 1.024, 1e-16);
+  }
 }
 
 TEST(LineInfluence, FollowsTheDistanceOfFarLoads) {
@@ -86,8 +87,9 @@ TEST(LineInfluence, IsNothingAtTheLevelOfTheLoad) {
 
 TEST(PointInfluence, IsTheSameForAllNearLoads) {
   // n = 0.4: 0.28 * 0.16 / 0.32³ = 0.0448 / 0.032768.
-  for (const double position : {0.0, 1.0, 3.9})
+  for (const double position : {0.0, 1.0, 3.9}) {
     EXPECT_NEAR(point_influence(position, 10.0, 4.0), 0.0448 / 0.032768, 1e-14);
+  }
 }
 
 TEST(PointInfluence, FollowsTheDistanceOfFarLoads) {
@@ -117,8 +119,9 @@ TEST(PointSpread, SumsAHundredStepsAtTheirMiddles) {
   constexpr int n = 2000;
   const auto f = [](double a) { return std::pow(std::cos(1.1 * a) / std::cos(a), 2.0); };
   double integral = f(0.0) + f(pi / 4.0);
-  for (int i = 1; i < n; ++i)
+  for (int i = 1; i < n; ++i) {
     integral += (i % 2 == 1 ? 4.0 : 2.0) * f(pi / 4.0 * i / n);
+  }
   integral *= 1000.0 * pi / 4.0 / n / 3.0;
   const double excess = 100.0 / 24.0 * 1.1 * std::sin(0.55 * pi) * 0.5 / 1000.0;
   EXPECT_NEAR(point_spread(1000.0, 2000.0), 2.0 * (integral + excess), 1e-6);

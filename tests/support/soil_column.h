@@ -51,8 +51,9 @@ inline xSoilLayer sloping_layer_of(const xSoilProps& soil, std::vector<double> l
 template <class Diagram>
 std::vector<double> values_of(const Diagram& diagram) {
   std::vector<double> values;
-  for (const auto& point : diagram.points)
+  for (const auto& point : diagram.points) {
     values.push_back(point.value);
+  }
   return values;
 }
 
@@ -60,8 +61,9 @@ std::vector<double> values_of(const Diagram& diagram) {
 template <class Diagram>
 std::vector<double> positions_of(const Diagram& diagram) {
   std::vector<double> positions;
-  for (const auto& point : diagram.points)
+  for (const auto& point : diagram.points) {
     positions.push_back(point.s);
+  }
   return positions;
 }
 
