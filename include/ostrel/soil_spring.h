@@ -96,8 +96,8 @@ public:
   /// The node is seen as the base of a strip foundation as wide as `spacing`, buried as deep as it
   /// lies below the excavation:
   ///
-  ///     modulus        = limit load / dispLim * factor of the interval
-  ///     ultimate limit = dispLim
+  ///     modulus        = limit load / disp_limit * factor of the interval
+  ///     ultimate limit = disp_limit
   ///     passive limit  = K sigma_v / modulus
   ///
   /// with the vertical stress sigma_v of the soil below the excavation and the passive coefficient
@@ -112,25 +112,25 @@ public:
   /// 1 and 2 its limit is 0 and it carries nothing. Where `formula` is the pressure at rest the
   /// passive limit takes K0. Stored results depend on both.
   ///
-  /// @param firstNode  index of the node at the excavation; the others follow downwards
-  /// @param formula    the earth pressure formula of the passive limit
-  /// @param theta      inclination of the wall's back to the vertical [rad]
-  /// @param intervals  limit and factor of each stretch of the embedded length
+  /// @param first_node  index of the node at the excavation; the others follow downwards
+  /// @param formula     the earth pressure formula of the passive limit
+  /// @param theta       inclination of the wall's back to the vertical [rad]
+  /// @param intervals   limit and factor of each stretch of the embedded length
   /// @param factor_type, factors  partial factors of the soil, applied to a copy of each layer's
-  /// @param layers     along the wall, from the top down, with their levels; a layer without weight
-  ///                   under another gives springs that are not numbers
-  /// @param depth      of the excavation below the wall's head [mm]
-  /// @param length     of the wall [mm]
-  /// @param spacing    of the piles, the width of the foundation [mm]
-  /// @param dispLim    displacement at the limit load [mm]
+  /// @param layers      along the wall, from the top down, with their levels; a layer without weight
+  ///                    under another gives springs that are not numbers
+  /// @param depth       of the excavation below the wall's head [mm]
+  /// @param length      of the wall [mm]
+  /// @param spacing     of the piles, the width of the foundation [mm]
+  /// @param disp_limit  displacement at the limit load [mm]
   /// @retval errNoUltimatePressure  a node lies in no interval; the nodes above it are kept
   /// @retval errLoadTooInclined     from the limit load; the nodes above are kept
-  OstrelErrorType compute_SkSpring(int firstNode, formulType formula, double theta,
+  OstrelErrorType compute_SkSpring(int first_node, formulType formula, double theta,
                                    const std::vector<xSpringInterval>& intervals,
                                    geoFactorType factor_type,
                                    const std::vector<GeoCombFactor>& factors,
                                    const std::vector<xSoilLayer>& layers, double depth,
-                                   double length, double spacing, double dispLim);
+                                   double length, double spacing, double disp_limit);
 
   /// The first interval that holds `x`, ends included and widened by 1e-6; null if there is none,
   /// as for a NaN.

@@ -175,10 +175,10 @@ void NodeModulus::Write(outstream& out) const {
 }
 
 OstrelErrorType xSubgradeReactionModulus::compute_SkSpring(
-    int firstNode, formulType formula, double theta, const std::vector<xSpringInterval>& intervals,
+    int first_node, formulType formula, double theta, const std::vector<xSpringInterval>& intervals,
     geoFactorType factor_type, const std::vector<GeoCombFactor>& factors,
     const std::vector<xSoilLayer>& layers, double depth, double length, double spacing,
-    double dispLim) {
+    double disp_limit) {
   clear();
   const LayerRange range = embedded_layers(layers, depth, length);
   if (range.first >= range.last) return ostrel::ok;
@@ -188,12 +188,12 @@ OstrelErrorType xSubgradeReactionModulus::compute_SkSpring(
                        .top = layers[range.first].getDepth(),
                        .embedded = length - depth,
                        .spacing = spacing,
-                       .limit = dispLim,
+                       .limit = disp_limit,
                        .factor_type = factor_type,
                        .factors = factors,
                        .intervals = intervals};
   Overburden above;
-  std::int64_t node = firstNode;
+  std::int64_t node = first_node;
   for (std::size_t i = range.first; i < range.last; ++i) {
     const xSoilLayer& layer = layers[i];
     DesignLayer design = design_layer(wall, layer);
