@@ -112,7 +112,7 @@ private:
   /// by nothing. Stored results depend on it.
   bool PunchingFactIsActive = false;
   bool InertialFactIsActive = false;
-  bool UnderWater = false;            ///< the soil below the foundation weighs less by the water's
+  bool UnderWater = false;  ///< the soil below the foundation weighs less by the water's
 };
 
 /// The bearing capacity of a strip foundation:
