@@ -46,7 +46,8 @@ public:
 
   /// Analyses one combination on the beam of `model`; the springs stand in `result` already.
   /// @retval errNoWall  no pile wall
-  /// @retval errCondListMismatch  not three actions more than there are load conditions
+  /// @retval errCondListMismatch  no combination, or one without exactly three actions more than
+  ///         there are load conditions
   /// @retval errLoadUndefined  a load has no pressure diagram or no place on the wall
   OstrelErrorType solveForCombination(xLoadComb* comb, xCombResults& result);
 
@@ -63,16 +64,19 @@ public:
   ///@{
 
   /// The weight of the wall along all elements, and at the head the cap beam on one bay less what
-  /// the wall section already counts, never less than nothing.
+  /// the wall section already counts, never less than nothing. A weight that is not a number stays
+  /// so, and the equations are then refused.
   /// @param w        unit weight with its factor [N/mm³]
   /// @param spacing  distance between pile axes [mm]
   /// @retval errNoWall  no pile wall; `pressures` are filled then
   /// @retval errFemNodeNotFound  an element names a node that the beam does not have
+  /// @retval errNoFemElements  no beam
   OstrelErrorType applyDeadLoad_new(xFemData* fem, double& w, double spacing,
                                     std::map<int, PressAtEnds>& pressures,
                                     std::map<int, xFemNodeData>& nodalForces);
 
   /// The weight of the wall as forces on the nodes; no analysis calls it.
+  /// @retval errNoFemElements  no beam
   OstrelErrorType applyDeadLoad_old(xFemData* fem, double& w,
                                     std::map<int, xFemNodeData>& nodalForces);
 
@@ -92,12 +96,13 @@ public:
 
   /// Places one load of the wall on the nodes of the element that holds it; exactly on a node it
   /// belongs to the element above.
-  /// @retval errLoadUndefined  a load deeper than the foot by more than 0.001 mm, or of an unknown
-  ///         class; `nodalForces` are as before
+  /// @retval errLoadUndefined  a load deeper than the foot by more than 0.001 mm, of an unknown
+  ///         class or none, or no beam; `nodalForces` are as before
   OstrelErrorType applyShpileLoads(double spacing, xAction& action, xFemData* fem,
                                    xShpileLoad* load, std::map<int, xFemNodeData>& nodalForces);
 
-  /// The pressure of one load on the ground; without any diagram for an unknown class.
+  /// The pressure of one load on the ground; without any diagram for an unknown class, no load or
+  /// no combination.
   xLoadPress computeLoadPress(xAction& action, xLoadComb* comb, xSoilLoad* load, double spacing);
   ///@}
 

@@ -95,7 +95,7 @@ OstrelErrorType xSolver::addLoadCondition(std::size_t i, xLoadComb& comb, xCombR
 OstrelErrorType xSolver::solveForCombination(xLoadComb* comb, xCombResults& result) {
   const xPile_Sheetpiling* wall = ostrel::model::pile_wall(data);
   if (!wall) return errNoWall;
-  if (comb->actions.size() != first_condition_action + data.loadConds.size()) {
+  if (!comb || comb->actions.size() != first_condition_action + data.loadConds.size()) {
     return errCondListMismatch;
   }
   auto code = addWeight(*comb, result);
@@ -119,6 +119,7 @@ OstrelErrorType xSolver::solveForCombination(xLoadComb* comb, xCombResults& resu
 
 xLoadPress xSolver::computeLoadPress(xAction& action, xLoadComb* comb, xSoilLoad* load,
                                      double spacing) {
+  if (!comb) return {};
   const double gamma = action.getFactor(actSecond);
   const auto acc = comb->seismic.coefficients;
   const double depth = data.props ? data.props->getDepth() : 0.0;

@@ -4,7 +4,6 @@
 #include "model/pile_wall.h"
 #include "ostrel/solver.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <optional>
 
@@ -55,6 +54,7 @@ OstrelErrorType xSolver::applyDeadLoad_new(xFemData* fem, double& w, double spac
                                            std::map<int, PressAtEnds>& pressures,
                                            std::map<int, xFemNodeData>& nodalForces) {
   pressures.clear();
+  if (!fem) return errNoFemElements;
   std::optional<PlacedElement> top;
   for (std::size_t e = 0; e < fem->elements.size(); ++e) {
     const xElemData& element = fem->elements[e];
@@ -74,12 +74,14 @@ OstrelErrorType xSolver::applyDeadLoad_new(xFemData* fem, double& w, double spac
   const xElemData& element = *top->element;
   const int head = top->y_start < top->y_end ? element.getStartNode() : element.getEndNode();
   const double cap_beam_area = spacing * wall->getBtrave() - element.getArea();
-  nodalForces[head].x = std::max(0.0, cap_beam_area * wall->getHtrave() * w);
+  const double cap_beam_weight = cap_beam_area * wall->getHtrave() * w;
+  nodalForces[head].x = cap_beam_weight <= 0.0 ? 0.0 : cap_beam_weight;  // NaN stays NaN
   return ostrel::ok;
 }
 
 OstrelErrorType xSolver::applyDeadLoad_old(xFemData* fem, double& w,
                                            std::map<int, xFemNodeData>& nodalForces) {
+  if (!fem) return errNoFemElements;
   for (const xElemData& element : fem->elements) {
     const double half = element.getArea() * element.getL() * w / 2.0;
     nodalForces[element.getStartNode()].x += half;
@@ -108,6 +110,7 @@ OstrelErrorType xSolver::applyPress(const std::vector<xLayerPress>& press,
 OstrelErrorType xSolver::applyShpileLoads(double spacing, xAction& action, xFemData* fem,
                                           xShpileLoad* load,
                                           std::map<int, xFemNodeData>& nodalForces) {
+  if (!fem) return errLoadUndefined;
   const double f = action.getFactor(actSecond);
   if (const auto* force = dynamic_cast<const xConcenterdLoad*>(load)) {
     const auto place = element_at(*fem, force->getPosition());

@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <initializer_list>
+#include <limits>
 #include <numbers>
 
 namespace {
@@ -64,6 +66,28 @@ TEST_F(Combination, WithAnActionTooFewIsRefusedBeforeAnythingIsRead) {
   comb.actions.pop_back();
   EXPECT_EQ(solve(), errCondListMismatch);
   EXPECT_TRUE(result.femLoadConds.empty());
+}
+
+TEST_F(Combination, WithoutACombinationIsRefused) {
+  build();
+  EXPECT_EQ(solver.solveForCombination(nullptr, result), errCondListMismatch);
+  xAction action;
+  const osg::ref_ptr<xUniformLoad> load = new xUniformLoad;
+  EXPECT_TRUE(solver.computeLoadPress(action, nullptr, load.get(), 1000.0).diagrams.empty());
+}
+
+// Nothing but the ground holds the wall across.
+TEST_F(Combination, PassesTheCodeOfTheEquationsOn) {
+  build();
+  result.subgradeModulus.clear();
+  EXPECT_EQ(solve(), errEquationSolve);
+}
+
+TEST_F(Combination, RefusesACapBeamWhoseWeightIsNotANumber) {
+  dynamic_cast<xPile_Sheetpiling&>(*solver.data.props)
+      .setHtrave(std::numeric_limits<double>::quiet_NaN());
+  build();
+  EXPECT_EQ(solve(), errEquationSolve);
 }
 
 TEST_F(Combination, WithEveryActionOffMovesNothing) {
@@ -136,6 +160,54 @@ TEST_F(Combination, PressesWithTheEarthByItsSecondFactor) {
   ASSERT_EQ(solve(), ostrel::ok);
   EXPECT_NEAR(result.femLoadConds[0].pressures.at(11).pEnd, -40.5, 1e-12 * 40.5);
   EXPECT_EQ(result.femLoadConds[0].pressures.size(), 12U);
+}
+
+// Water at 2750 mm: at the excavation 250 * 1000 * 1e-5 * 1.5 = 3.75 N/mm. The one element of that
+// diagram is the first of the wall, at the head.
+TEST_F(Combination, PressesWithTheWaterByItsSecondFactorFromTheHeadOn) {
+  solver.data.waterTable.setIsDefined(true);
+  solver.data.waterTable.setLivelloMonte(-2750.0);
+  build();
+  comb.actions[2].set("water", true, 7.0, 1.5);
+  set_active({false, false, true});
+  ASSERT_EQ(solve(), ostrel::ok);
+  ASSERT_EQ(result.femLoadConds.size(), 1U);
+  ASSERT_EQ(result.femLoadConds[0].pressures.size(), 1U);
+  EXPECT_DOUBLE_EQ(result.femLoadConds[0].pressures.at(0).pStart, 0.0);
+  EXPECT_NEAR(result.femLoadConds[0].pressures.at(0).pEnd, -3.75, 1e-12 * 3.75);
+}
+
+// Whatever the law, the pressure grows with the second factor and with 1 - kv: 3 * 1.1 = 3.3 times.
+TEST_F(Combination, TakesLoadsOnTheGroundByTheSecondFactorAndTheVerticalCoefficient) {
+  build();
+  osg::ref_ptr<xUniformLoad> uniform = new xUniformLoad;
+  uniform->setValue(0.01);
+  osg::ref_ptr<xNastriformLoad> strip = new xNastriformLoad;
+  strip->setStartValue(0.01);
+  strip->setEndValue(0.02);
+  strip->setPosition(500.0);
+  strip->setExtension(1000.0);
+  osg::ref_ptr<xLinearLoad> line = new xLinearLoad;
+  osg::ref_ptr<xPuntiformLoad> point = new xPuntiformLoad;
+  const auto place = [](xLocalizedLoad& load) {
+    load.setValue(1e4);
+    load.setPosition(1500.0);
+  };
+  place(*line);
+  place(*point);
+  const auto at_1000_mm = [this](xSoilLoad* load, double second, double kv) {
+    xAction action;
+    action.set("Q", true, 7.0, second);
+    comb.seismic.coefficients = {0.0, kv};
+    return solver.computeLoadPress(action, &comb, load, 1000.0).diagrams.at(0).points.at(4).value;
+  };
+  for (xSoilLoad* load :
+       std::initializer_list<xSoilLoad*>{uniform.get(), strip.get(), line.get(), point.get()}) {
+    const double plain = at_1000_mm(load, 1.0, 0.0);
+    EXPECT_GT(plain, 0.0) << load->getIOClass();
+    EXPECT_NEAR(at_1000_mm(load, 3.0, -0.1), 3.3 * plain, 1e-12 * 3.3 * plain)
+        << load->getIOClass();
+  }
 }
 
 TEST_F(Combination, FailsForALoadOnTheGroundWithoutALaw) {

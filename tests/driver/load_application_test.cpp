@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -124,6 +125,18 @@ TEST_F(DeadLoad, OfABeamWithoutElementsIsNothing) {
   EXPECT_EQ(apply(10.0), ostrel::ok);
   EXPECT_TRUE(pressures.empty());
   EXPECT_TRUE(nodal_forces.empty());
+}
+
+TEST_F(DeadLoad, OfACapBeamOfUnknownSizeIsNotANumber) {
+  wall().setBtrave(std::numeric_limits<double>::quiet_NaN());
+  ASSERT_EQ(apply(10.0), ostrel::ok);
+  EXPECT_TRUE(std::isnan(nodal_forces.at(0).x));
+}
+
+TEST_F(DeadLoad, WithoutABeamFails) {
+  EXPECT_EQ(solver.applyDeadLoad_new(nullptr, w, 10.0, pressures, nodal_forces), errNoFemElements);
+  EXPECT_TRUE(pressures.empty());
+  EXPECT_EQ(solver.applyDeadLoad_old(nullptr, w, nodal_forces), errNoFemElements);
 }
 
 TEST_F(DeadLoad, RefusesAnElementWithoutItsNodes) {
@@ -296,6 +309,34 @@ TEST_F(WallLoads, OfAnUnknownClassAreUndefined) {
   };
   EXPECT_EQ(apply(new Vibration), errLoadUndefined);
   EXPECT_EQ(apply(nullptr), errLoadUndefined);
+}
+
+TEST_F(WallLoads, WithoutABeamAreUndefined) {
+  const auto load = force_at(500.0);
+  EXPECT_EQ(solver.applyShpileLoads(10.0, action, nullptr, load.get(), nodal_forces),
+            errLoadUndefined);
+  EXPECT_TRUE(nodal_forces.empty());
+}
+
+// The head is at 0, so a = -500 and b = 1500 with L = 1000 and P = 16:
+// y = 16 * 1500² * (-1000 + 1000) / 1000³ = 0 and (3000 + 1000) * 16 * 500² / 1000³ = 16;
+// x = 1500 * 8 / 1000 = 12 and -4; r = (16e6 * -500 - 32e3 * 250e3 + 16 * -125e6) / 1e6 = -18000
+// and (16 * -125e6 - 16e3 * 250e3) / 1e6 = -6000. The moment about the head stays 16 * -500.
+TEST_F(WallLoads, AboveTheHeadBelongToTheFirstElement) {
+  ASSERT_EQ(apply(force_at(-500.0)), ostrel::ok);
+  expect_node(nodal_forces.at(0), 12.0, 0.0, -18000.0);
+  expect_node(nodal_forces.at(1), -4.0, 16.0, -6000.0);
+}
+
+// The place is sought by the depths of the nodes; the length is the element's own, 2000 for nodes
+// 1000 apart: a = 500, b = 1500. x = 1500 * 8 / 2000 = 6 and 2; y = 16 * 1500² * 3000 / 2000³ = 13.5
+// and (6000 - 1000) * 16 * 500² / 2000³ = 2.5; r = P a b² / L² = 16 * 500 * 1500² / 2000² = 4500 and
+// -P a² b / L² = -16 * 500² * 1500 / 2000² = -1500.
+TEST_F(WallLoads, TakeTheLengthThatTheElementSays) {
+  fem.elements[0].setL(2000.0);
+  ASSERT_EQ(apply(force_at(500.0)), ostrel::ok);
+  expect_node(nodal_forces.at(0), 6.0, 13.5, 4500.0);
+  expect_node(nodal_forces.at(1), 2.0, 2.5, -1500.0);
 }
 
 }  // namespace
