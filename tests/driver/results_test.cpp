@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ostrel/results.h"
 
+#include "support/hostile_stream.h"
 #include "support/stream_round_trip.h"
 
 #include <gtest/gtest.h>
@@ -61,6 +62,11 @@ TEST(CombResults, OfTheFirstVersionAreRefused) {
   } catch (int version) {
     EXPECT_EQ(version, 1);
   }
+}
+
+TEST(CombResults, OfADamagedStreamAreRefused) {
+  ostrel::testing::expect_cuts_refused(filled_results());
+  EXPECT_GT(ostrel::testing::refused_mutations(filled_results(), 500), 0);
 }
 
 TEST(CombResults, ResetEmptiesThem) {

@@ -170,6 +170,10 @@ TEST_F(Run, SwitchesTheVerticalSeismicCoefficientForGood) {
   EXPECT_DOUBLE_EQ(solver.data.loadCombs[0].seismic.coefficients[0], 0.2);
   EXPECT_DOUBLE_EQ(solver.data.loadCombs[0].seismic.coefficients[1], -0.1);
   EXPECT_DOUBLE_EQ(data.loadCombs[0].seismic.coefficients[1], 0.1);
+  // A second run on the same input analyses the opposite sign.
+  solver.model.reset();
+  ASSERT_EQ(solver.solve(results, uls, sls, errors), veldNothing);
+  EXPECT_DOUBLE_EQ(solver.data.loadCombs[0].seismic.coefficients[1], 0.1);
 }
 
 TEST_F(Run, AppendsToTheResults) {
