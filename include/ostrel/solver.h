@@ -31,7 +31,9 @@ public:
   xSolver& operator=(const xSolver&) = default;
   xSolver& operator=(xSolver&&) = default;
 
-  /// The run. Nothing that is handed in is emptied first: results and messages are appended.
+  /// The run. Nothing that is handed in is emptied first: results and messages are appended. Nor is
+  /// `model`: the ground is appended to its layers, so that a second run on one solver begins with
+  /// `model.reset()`.
   ///
   /// A combination that fails is reported with its name and the next one runs, but then no
   /// verification does; any other failure ends the run.

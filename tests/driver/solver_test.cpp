@@ -90,6 +90,14 @@ TEST_F(Run, HoldsTheFootOfTheWallEachTime) {
   EXPECT_EQ(solver.data.restriction.imposed.size(), 2U);
 }
 
+TEST_F(Run, AppendsTheGroundToTheModel) {
+  ASSERT_EQ(run(standing_wall().build()), veldNothing);
+  const std::size_t layers = solver.model.layers.size();
+  ASSERT_EQ(layers, 3U);  // cut at the excavation and at the foot
+  ASSERT_EQ(solver.solve(results, uls, sls, errors), veldNothing);
+  EXPECT_EQ(solver.model.layers.size(), 2 * layers);
+}
+
 TEST_F(Run, RefusesACombinationWithTooFewActions) {
   xSheetpilingData data = standing_wall().combination(unfactored("A1")).build();
   data.loadConds.resize(1);
