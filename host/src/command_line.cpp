@@ -2,6 +2,7 @@
 #include "command_line.h"
 
 #include "command_core.h"
+#include "command_run.h"
 #include "texts.h"
 
 #include <ostrel/language.h>
@@ -46,7 +47,8 @@ public:
                           described(texts_, Text::version_line));
     app_.add_option("--lang", language_, described(texts_, Text::language_line))
         ->check(CLI::IsMember({"it", "en"}))
-        ->type_name("it|en");
+        ->type_name("");
+    add_run();
     add_core();
   }
 
@@ -57,11 +59,24 @@ public:
     } catch (const CLI::ParseError& error) {
       return app_.exit(error, out_, err_) == 0 ? exit_fine : exit_bad_input;
     }
-    ostrel::set_language(code_of(core_options_.texts.language()));
-    return run_core(core_options_, out_, err_);
+    const bool runs = run_->parsed();
+    const Texts& texts = runs ? run_options_.texts : core_options_.texts;
+    ostrel::set_language(code_of(texts.language()));
+    return runs ? run_project(run_options_, out_, err_) : run_core(core_options_, out_, err_);
   }
 
 private:
+  void add_run() {
+    run_options_.texts = texts_;
+    run_ = app_.add_subcommand("run", described(texts_, Text::run_line));
+    run_->add_option("PROJECT.json", run_options_.project_file,
+                     described(texts_, Text::file_of_project))
+        ->required();
+    run_->add_option("-o,--output", run_options_.folder,
+                     described(texts_, Text::folder_for_results))
+        ->type_name("DIR");
+  }
+
   void add_core() {
     // The texts of a case are for other programs: they do not follow the environment.
     core_options_.texts = Texts(asked_.value_or(Language::italian));
@@ -79,6 +94,8 @@ private:
   std::ostream& err_;
   CLI::App app_;
   std::string language_;
+  CLI::App* run_ = nullptr;
+  RunOptions run_options_;
   CoreOptions core_options_;
 };
 

@@ -2,6 +2,7 @@
 #include "field_reader.h"
 
 #include "json_text.h"
+#include "text_table.h"
 
 #include <fmt/ranges.h>
 
@@ -17,15 +18,6 @@ namespace {
 using Json = nlohmann::json;
 
 constexpr std::size_t longest_shown = 60;  // characters of a value that a message shows
-
-// A text cut to its first characters, never inside of one.
-std::string shortened(const std::string& text) {
-  if (text.size() <= longest_shown) return text;
-  std::size_t end = longest_shown;
-  while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0u) == 0x80u)
-    --end;
-  return text.substr(0, end) + "...";
-}
 
 // How many letters have to change, come or go to turn one name into the other.
 std::size_t edit_distance(const std::string& a, const std::string& b) {
@@ -111,6 +103,10 @@ std::int32_t ValueReader::integer(std::int32_t least, std::int32_t most) const {
   }
   const bool unlimited = least == std::numeric_limits<std::int32_t>::min()
                       && most == std::numeric_limits<std::int32_t>::max();
+  if (least == most) {
+    refuse(fmt::format("{}", least));
+    return 0;
+  }
   refuse(unlimited ? std::string(texts()(Text::an_integer))
                    : texts()(Text::an_integer_in, Range::between(least, most).describe(texts())));
   return 0;
@@ -176,7 +172,7 @@ void ValueReader::refuse(std::string allowed) const {
 std::string ValueReader::shown() const {
   if (value_->is_object()) return std::string(texts()(Text::an_object));
   if (value_->is_array()) return texts()(Text::a_list_of, value_->size());
-  return shortened(value_->dump());
+  return fitted(value_->dump(), longest_shown);
 }
 
 ObjectReader::ObjectReader(const Json& object, bool is_object, std::string path, Problems& problems,
@@ -191,8 +187,8 @@ ObjectReader::~ObjectReader() {
   if (!is_object_) return;
   const Texts& texts = problems_->texts();
   for (const auto& [name, value] : object_->items()) {
-    if (asked_.contains(name)) continue;
-    const std::string path = child_path(path_, shortened(name));
+    if (asked_.contains(name) || is_comment(name, value)) continue;
+    const std::string path = child_path(path_, fitted(name, longest_shown));
     if (rules_->tolerate_unknown) {
       problems_->remark(path, std::string(texts(Text::ignored_field)));
       continue;
@@ -202,6 +198,12 @@ ObjectReader::~ObjectReader() {
                    near.empty() ? texts(Text::one_of, fmt::format("{}", fmt::join(asked_, ", ")))
                                 : texts(Text::perhaps, near));
   }
+}
+
+bool ObjectReader::is_comment(const std::string& name, const Json& value) const {
+  if (!rules_->comments || name != "comment") return false;
+  const auto is_text = [](const Json& entry) { return entry.is_string(); };
+  return is_text(value) || (value.is_array() && std::all_of(value.begin(), value.end(), is_text));
 }
 
 std::optional<ValueReader> ObjectReader::optional(const std::string& name) {

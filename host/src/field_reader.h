@@ -49,6 +49,8 @@ struct ReadingRules {
   bool any_number = false;
   /// Fields that nobody knows are remarked upon instead of refused.
   bool tolerate_unknown = false;
+  /// Every object may hold a text, or a list of texts, named "comment", for human readers.
+  bool comments = false;
 };
 
 class ObjectReader;
@@ -62,6 +64,7 @@ public:
 
   const std::string& path() const { return path_; }
   const nlohmann::json& json() const { return *value_; }
+  Problems& problems() const { return *problems_; }
   bool is_null() const { return value_->is_null(); }
   const ReadingRules& rules() const { return *rules_; }
 
@@ -138,6 +141,8 @@ public:
   ///@}
 
 private:
+  bool is_comment(const std::string& name, const nlohmann::json& value) const;
+
   const nlohmann::json* object_;
   bool is_object_;
   std::string path_;

@@ -2,6 +2,7 @@
 #include "problems.h"
 
 #include "json_text.h"
+#include "text_table.h"
 
 #include <map>
 #include <set>
@@ -11,7 +12,23 @@ namespace ostrel::host {
 
 namespace {
 
-constexpr std::size_t most_kept = 500;  // errors and remarks of one file, each
+constexpr std::size_t most_kept = 500;     // errors and remarks of one file, each
+constexpr std::size_t longest_path = 120;  // characters of a path that a message shows
+
+struct Place {
+  std::size_t line = 0;  // 0 where there is none
+  std::string words;
+};
+
+Place place_of(const std::string& file, const std::string& path,
+               const std::map<std::string, std::size_t>& lines) {
+  const auto found = lines.find(path);
+  if (path.empty() || found == lines.end()) {
+    return {.line = 0, .words = path.empty() ? file : fmt::format("{}: {}", file, path)};
+  }
+  return {.line = found->second,
+          .words = fmt::format("{}:{}: {}", file, found->second, fitted(path, longest_path))};
+}
 
 }  // namespace
 
@@ -34,20 +51,23 @@ std::string Problems::report(const std::string& file, std::string_view text) con
   for (const Remark& remark : remarks_)
     paths.insert(remark.path);
   const std::map<std::string, std::size_t> lines = find_lines(text, paths);
-  const auto place = [&](const std::string& path) {
-    const auto line = lines.find(path);
-    std::string words =
-        line == lines.end() || path.empty() ? file : fmt::format("{}:{}", file, line->second);
-    return path.empty() ? words : fmt::format("{}: {}", words, path);
-  };
-  std::string report;
+  std::multimap<std::size_t, std::string> errors;  // by line
   for (const Problem& problem : errors_) {
-    report += texts_(Text::error_line, place(problem.path), problem.found, problem.allowed) + "\n";
+    const Place place = place_of(file, problem.path, lines);
+    errors.emplace(place.line,
+                   texts_(Text::error_line, place.words, problem.found, problem.allowed));
   }
-  if (more_errors_ > 0) report += texts_(Text::more_errors, more_errors_) + "\n";
+  std::multimap<std::size_t, std::string> remarks;
   for (const Remark& remark : remarks_) {
-    report += texts_(Text::warning_line, place(remark.path), remark.message) + "\n";
+    const Place place = place_of(file, remark.path, lines);
+    remarks.emplace(place.line, texts_(Text::warning_line, place.words, remark.message));
   }
+  std::string report;
+  for (const auto& [line, message] : errors)
+    report += message + "\n";
+  if (more_errors_ > 0) report += texts_(Text::more_errors, more_errors_) + "\n";
+  for (const auto& [line, message] : remarks)
+    report += message + "\n";
   return report;
 }
 

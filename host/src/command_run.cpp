@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "command_run.h"
+
+#include "analysis.h"
+#include "atomic_file.h"
+#include "command_line.h"
+#include "json_text.h"
+#include "problems.h"
+#include "project_conversion.h"
+#include "project_file.h"
+#include "result_files.h"
+#include "run_report.h"
+
+#include <filesystem>
+#include <optional>
+#include <ostream>
+#include <system_error>
+
+namespace ostrel::host {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::optional<Project> load(const RunOptions& options, std::ostream& err) {
+  Problems problems(options.texts);
+  const std::optional<std::string> text = read_file(options.project_file, problems);
+  std::optional<Project> project = text ? read_project(*text, problems) : std::nullopt;
+  err << problems.report(options.project_file, text ? *text : "");
+  return project;
+}
+
+// Makes the folder and tries it, before the analysis. @return an empty text, or why not
+std::string prepare(const std::string& folder) {
+  std::error_code code;
+  fs::create_directories(folder, code);
+  if (code) return code.message();
+  return try_writing((fs::path(folder) / "result.json").string());
+}
+
+// @return an empty text, or the file and why it could not be written
+std::string write_files(const RunOptions& options, const std::vector<ResultFile>& files,
+                        std::ostream& out) {
+  for (const ResultFile& file : files) {
+    const std::string path = (fs::path(options.folder) / file.name).string();
+    if (const std::string reason = write_whole(path, file.contents); !reason.empty()) {
+      return options.texts(Text::cannot_write, path, reason);
+    }
+  }
+  out << "\n" << options.texts(Text::written_to, options.folder) << "\n";
+  return {};
+}
+
+}  // namespace
+
+int run_project(const RunOptions& options, std::ostream& out, std::ostream& err) {
+  const std::optional<Project> project = load(options, err);
+  if (!project) return exit_bad_input;
+  if (!options.folder.empty()) {
+    if (const std::string reason = prepare(options.folder); !reason.empty()) {
+      err << options.texts(Text::cannot_write, options.folder, reason) << "\n";
+      return exit_bad_input;
+    }
+  }
+  const Job job = to_job(*project);
+  const Outcome outcome = analyse(job);
+  out << run_report(*project, job, outcome, options.texts);
+  if (!options.folder.empty()) {
+    if (const std::string message = write_files(options, result_files(*project, job, outcome), out);
+        !message.empty()) {
+      err << message << "\n";
+      return exit_bad_input;
+    }
+  }
+  for (const xVeldError& message : outcome.messages)
+    err << message.MakeErrStr() << "\n";
+  return outcome.verdict == veldError ? exit_analysis_failed : exit_fine;
+}
+
+}  // namespace ostrel::host

@@ -1,0 +1,21 @@
+#pragma once
+/// @file  The command `ostrel run`. Room: host
+// SPDX-License-Identifier: Apache-2.0
+
+#include "texts.h"
+
+#include <iosfwd>
+#include <string>
+
+namespace ostrel::host {
+
+struct RunOptions {
+  std::string project_file;
+  std::string folder;  ///< for the files; empty for none
+  Texts texts{Language::english};
+};
+
+/// Analyses a project, prints its tables and messages and writes its files. @return exit status
+int run_project(const RunOptions& options, std::ostream& out, std::ostream& err);
+
+}  // namespace ostrel::host
