@@ -92,7 +92,7 @@ OstrelErrorType xSolver::checkULS(const xSheetpilingRes& /*results*/, xUltimateL
   return ostrel::model::pile_wall(data) ? ostrel::ok : errNoWall;
 }
 
-OstrelErrorType xSolver::checkSLS(const xSheetpilingRes& /*results*/,
-                                  xServiceabilityLimitStates& /*sls*/) {
-  return ostrel::model::pile_wall(data) ? ostrel::ok : errNoWall;
+OstrelErrorType xSolver::checkSLS(const xSheetpilingRes& results, xServiceabilityLimitStates& sls) {
+  const auto excavation = static_cast<unsigned>(model.fem.getJtsoil());
+  return sls.displacements.check(excavation, data, results.combResults);
 }

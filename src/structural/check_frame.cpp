@@ -3,28 +3,15 @@
 
 #include "services/class_frame.h"
 #include "services/exact.h"
-#include "services/label_table.h"
+#include "structural/verification_frame.h"
+
+#include <quillet/translation.h>
 
 #include <cmath>
-#include <sstream>
 
-using ostrel::services::label;
+using ostrel::structural::failure_text;
+using ostrel::structural::unlimited_factor;
 using quillet::translatable;
-
-namespace {
-
-constexpr double unlimited_factor = 1e10;
-
-/// Opening, combination, safety factor, and the place under the name `place_name`.
-std::string failure_text(const char* opening, const xCheckInfo& failure, const char* place_name,
-                         double place) {
-  std::ostringstream text;
-  text << label(opening) << failure.combName << label(translatable(", sf=")) << failure.sf
-       << label(place_name) << place;
-  return text.str();
-}
-
-}  // namespace
 
 double CalculateSF(double demand, double resistance) {
   if (ostrel::exactly_equal(demand, 0.0)) return unlimited_factor;
