@@ -180,16 +180,39 @@ TEST_F(Run, SwitchesTheVerticalSeismicCoefficientForGood) {
   EXPECT_DOUBLE_EQ(data.loadCombs[0].seismic.coefficients[1], 0.1);
   // A second run on the same input analyses the opposite sign.
   solver.model.reset();
+  results.reset();
   ASSERT_EQ(solver.solve(results, uls, sls, errors), veldNothing);
   EXPECT_DOUBLE_EQ(solver.data.loadCombs[0].seismic.coefficients[1], 0.1);
 }
 
+// The verifications then meet more results than combinations and say so.
 TEST_F(Run, AppendsToTheResults) {
   const xSheetpilingData data = standing_wall().combination(unfactored("A")).build();
   ASSERT_EQ(run(data), veldNothing);
   solver.reset();
-  ASSERT_EQ(run(data), veldNothing);
+  EXPECT_EQ(run(data), veldError);
   EXPECT_EQ(results.combResults.size(), 2U);
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_EQ(errors[0].getID(), errResultCount);
+  EXPECT_EQ(errors[0].getIdObj(), 7);
+}
+
+TEST_F(Run, VerifiesTheDisplacementsInTheEnd) {
+  xLoadComb comb = unfactored("SLE");
+  comb.checks[checkDisplacements] = true;
+  ASSERT_EQ(run(standing_wall().combination(comb).build()), veldNothing);
+  ASSERT_EQ(sls.displacements.results.size(), 1U);
+  EXPECT_DOUBLE_EQ(sls.displacements.results[0].getJtsPos(), 3000.0);
+  EXPECT_EQ(sls.displacements.results[0].getIdObj(), 7);
+}
+
+TEST_F(Run, WithAnEmptyTableOfVerificationsFailsInTheEnd) {
+  xLoadComb comb = unfactored("A");
+  comb.checks.clear();
+  EXPECT_EQ(run(standing_wall().combination(comb).build()), veldError);
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_EQ(errors[0].getID(), errNoCheckEnabled);
+  EXPECT_EQ(results.combResults.size(), 1U);
 }
 
 TEST_F(Run, SharesTheWallAndDoesNotWriteToIt) {
