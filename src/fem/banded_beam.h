@@ -4,14 +4,12 @@
 //
 // From pass to pass only the springs of the soil change, and they stand on the diagonal. The band
 // of the dense matrix is therefore taken once, with all supports but the soil in it, and each pass
-// adds the soil to a copy and factorises that. An element joins neighbouring nodes, so an entry
-// lies at most five columns from the diagonal.
+// adds the soil to a copy and factorises that.
 //
 // Displacements and rotations differ in scale by nine powers of ten. Rows and columns are scaled by
 // powers of two, which costs no accuracy and keeps three digits that a long beam would lose.
 
 #include "ostrel/anchor.h"
-#include "ostrel/error.h"
 #include "ostrel/fem_data.h"
 
 #include <armadillo>
@@ -31,23 +29,33 @@ public:
 
   /// Adds `stiffness[i]` [N/mm] at dof 1 of `nodes[i]`, a constraint there winning, and solves for
   /// the right-hand side `d`, which the solution replaces. The springs are forgotten afterwards.
-  /// @retval errEquationSolve  singular to working precision, or numbers that are not finite
-  OstrelErrorType solve(const std::vector<int>& nodes, const std::vector<double>& stiffness,
-                        std::vector<double>& d);
+  ///
+  /// @return false, and `d` unchanged, where numbers are not finite or the equations come so near to
+  ///         being singular that the dense form has to decide
+  bool solve(const std::vector<int>& nodes, const std::vector<double>& stiffness,
+             std::vector<double>& d);
 
 private:
   class Band;
 
   void scale();
-  double largest_column_sum() const;
-  bool is_singular(double norm) const;
+  bool take_soil(const std::vector<int>& nodes, const std::vector<double>& stiffness);
+  bool factorise();
+  void substitute(double* columns, int count);
+  bool is_well_conditioned();
 
   std::size_t size_ = 0;
   std::vector<double> base_;       // the band without the soil, scaled
-  std::vector<double> work_;       // its factors
+  double base_norm_ = 0.0;         // its largest column sum
   std::vector<double> row_scale_;  // powers of two
   std::vector<double> column_scale_;
   std::vector<bool> is_unit_row_;
+  std::vector<double> signs_;  // a fixed pattern of 1 and -1
+
+  // Of one pass.
+  std::vector<double> work_;     // the band with the soil, then its factors
+  double norm_ = 0.0;            // not below the largest column sum
+  std::vector<double> columns_;  // the right-hand side and the signs, then what they solve to
   std::vector<int> pivots_;
 };
 

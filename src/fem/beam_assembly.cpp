@@ -11,7 +11,7 @@ std::vector<std::uint32_t> element_dofs(std::uint32_t element) {
   return dofs;
 }
 
-arma::Mat<double> element_stiffness(const BeamElement& element) {
+ElementMatrix element_stiffness(const BeamElement& element) {
   const double E = element.elastic_modulus;
   const double J = element.second_moment;
   const double L = element.length;
@@ -21,7 +21,7 @@ arma::Mat<double> element_stiffness(const BeamElement& element) {
   const double near_end = 4.0 * E * J / L;
   const double far_end = 2.0 * E * J / L;
 
-  arma::Mat<double> k(dofs_per_element, dofs_per_element, arma::fill::zeros);
+  ElementMatrix k(arma::fill::zeros);
   k(0, 0) = k(3, 3) = along;
   k(0, 3) = k(3, 0) = -along;
   k(1, 1) = k(4, 4) = across;

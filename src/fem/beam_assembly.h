@@ -7,13 +7,17 @@
 //   The wall is a straight chain of plane beam elements, numbered with its nodes from the head
 //   down:
 //
-//        o  node 0, the head, depth 0        dof of a node n, with the global number 3n + k:
-//        |  element 0                          k = 0  displacement along the wall, positive
-//        downwards o  node 1                             k = 1  displacement across the wall |
-//        element 1                          k = 2  rotation, the derivative of dof 1 by the depth
-//        o  node 2
-//        :                                   Element e joins the nodes e (start) and e + 1 (end);
-//        its o  node Ne, the foot                local dofs 0..5 are the global dofs 3e..3e + 5.
+//        o  node 0, the head, depth 0       Each node has three dofs; dof k of node n has the
+//        |                                  global number 3n + k:
+//        |  element 0
+//        |                                    k = 0  displacement along the wall, positive downwards
+//        o  node 1                            k = 1  displacement across the wall
+//        |                                    k = 2  rotation, the derivative of dof 1 by the depth
+//        |  element 1
+//        |                                  Element e joins the nodes e (start) and e + 1 (end); its
+//        o  node 2                          local dofs 0..5 are the global dofs 3e..3e + 5.
+//        :
+//        o  node Ne, the foot
 //
 //   E  elastic modulus [N/mm²]      A  cross-section area [mm²]
 //   L  length [mm]                  J  second moment of area for bending across the wall [mm⁴]
@@ -26,6 +30,8 @@
 
 #include <armadillo>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -33,6 +39,24 @@ namespace ostrel::fem {
 
 inline constexpr std::uint32_t dofs_per_node = 3;
 inline constexpr std::uint32_t dofs_per_element = 6;
+
+/// How far from the diagonal the matrix of the beam has entries: an element joins neighbours only.
+inline constexpr std::size_t half_band_width = dofs_per_element - 1;
+
+/// The rows of a column of the beam's matrix that can hold anything, from `first` to before `end`.
+struct BandRows {
+  std::size_t first = 0;
+  std::size_t end = 0;
+};
+
+/// @param size  number of rows and columns
+constexpr BandRows band_rows(std::size_t column, std::size_t size) {
+  return {.first = column > half_band_width ? column - half_band_width : 0,
+          .end = std::min(size, column + half_band_width + 1)};
+}
+
+/// A row and a column for each dof of an element.
+using ElementMatrix = arma::Mat<double>::fixed<dofs_per_element, dofs_per_element>;
 
 /// What the stiffness of an element depends on.
 struct BeamElement {
@@ -56,7 +80,7 @@ std::vector<std::uint32_t> element_dofs(std::uint32_t element);
 ///                           |  6L   2L²   -6L   4L²  |
 ///
 /// A length of zero gives entries that are not finite.
-arma::Mat<double> element_stiffness(const BeamElement& element);
+ElementMatrix element_stiffness(const BeamElement& element);
 
 /// The six nodal loads of a load that varies linearly along an element: its fixed-end reactions,
 /// reversed [N], [Nmm].

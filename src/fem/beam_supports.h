@@ -15,6 +15,7 @@
 
 #include <armadillo>
 
+#include <algorithm>
 #include <cstddef>
 #include <map>
 #include <vector>
@@ -26,7 +27,7 @@ class DenseEquations {
 public:
   explicit DenseEquations(arma::Mat<double>& matrix) : matrix_(matrix) {}
 
-  std::size_t size() const { return matrix_.n_rows; }
+  std::size_t size() const { return std::min(matrix_.n_rows, matrix_.n_cols); }
   void add(std::size_t i, std::size_t j, double value) { matrix_.at(i, j) += value; }
   void make_unit_row(std::size_t i) {
     matrix_.row(i).zeros();

@@ -34,8 +34,9 @@ std::vector<arma::Col<double>> load_elements(const xFemData& data, const xFemLoa
     const auto element = static_cast<std::uint32_t>(key);
     columns[element] = ostrel::fem::equivalent_nodal_loads(pressure, data.elements[element].getL());
     const std::size_t first = std::size_t{ostrel::fem::dofs_per_node} * element;
-    for (std::size_t k = 0; k < ostrel::fem::dofs_per_element; ++k)
+    for (std::size_t k = 0; k < ostrel::fem::dofs_per_element; ++k) {
       loads[first + k] += columns[element][k];
+    }
   }
   return columns;
 }
@@ -53,14 +54,16 @@ void xFemSolver::takeSizes(const xFemData& data, std::size_t load_conditions) {
   Nlc = static_cast<std::uint32_t>(load_conditions);
   Dembin = data.getDembin();
   elemLength.clear();
-  for (const xElemData& element : data.elements)
+  for (const xElemData& element : data.elements) {
     elemLength.push_back(element.getL());
+  }
 }
 
 OstrelErrorType xFemSolver::buildTopologyMat() {
   topology.clear();
-  for (std::uint32_t e = 0; e < Ne; ++e)
+  for (std::uint32_t e = 0; e < Ne; ++e) {
     topology.push_back(ostrel::fem::element_dofs(e));
+  }
   return ostrel::ok;
 }
 
@@ -75,17 +78,20 @@ OstrelErrorType xFemSolver::buildLoadMat(const xFemData& data,
   for (const xFemLoadCond& condition : conditions) {
     std::vector<double>& sum = loads.emplace_back(Np, 0.0);
     elemLoads.push_back(load_elements(data, condition, Ne, sum));
-    for (const auto& [node, force] : condition.nodalForces)
+    for (const auto& [node, force] : condition.nodalForces) {
       add_at_node(force, static_cast<std::size_t>(node), sum);
+    }
   }
   return ostrel::ok;
 }
 
 OstrelErrorType xFemSolver::buildBStif(const xFemData& data) {
-  K.reset();
   elemK.clear();
-  if (!fits(data) || topology.size() != Ne) return errNodeCountModel;
-  K.zeros(Np, Np);
+  if (!fits(data) || topology.size() != Ne) {
+    K.reset();
+    return errNodeCountModel;
+  }
+  K.zeros(Np, Np);  // in the memory of the beam before, where that was as large
   elemK.reserve(Ne);
   for (std::uint32_t e = 0; e < Ne; ++e) {
     const xElemData& element = data.elements[e];
@@ -104,8 +110,9 @@ OstrelErrorType xFemSolver::reviseElemLength(const xFemData& data) {
   const std::int64_t count = std::int64_t{Nn} - first - 1;
   if (first < 0 || count <= 0 || elemLength.size() != Ne) return ostrel::ok;
   const double length = Dembin / static_cast<double>(count);
-  for (std::size_t e = static_cast<std::size_t>(first); e < Ne; ++e)
+  for (std::size_t e = static_cast<std::size_t>(first); e < Ne; ++e) {
     elemLength[e] = length;
+  }
   return ostrel::ok;
 }
 

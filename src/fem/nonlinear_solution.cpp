@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The secant iteration of the beam on springs of limited strength.
 #include "fem/banded_beam.h"
+#include "fem/beam_assembly.h"
 #include "fem/beam_supports.h"
 #include "fem/spring_lumping.h"
 #include "ostrel/fem_solver.h"
@@ -52,8 +53,9 @@ Convergence compare_passes(const SpringLine& line, const std::vector<double>& pr
 std::vector<double> sum_of(const std::vector<std::vector<double>>& loads, std::size_t size) {
   std::vector<double> total(size, 0.0);
   for (const auto& each : loads) {
-    for (std::size_t i = 0; i < size; ++i)
+    for (std::size_t i = 0; i < size; ++i) {
       total[i] += each[i];
+    }
   }
   return total;
 }
@@ -62,8 +64,9 @@ std::vector<arma::Col<double>> sum_of(
     const std::vector<std::vector<arma::Col<double>>>& element_loads, std::size_t elements) {
   std::vector<arma::Col<double>> total(elements, arma::Col<double>(6, arma::fill::zeros));
   for (const auto& each : element_loads) {
-    for (std::size_t e = 0; e < elements; ++e)
+    for (std::size_t e = 0; e < elements; ++e) {
       total[e] += each[e];
+    }
   }
   return total;
 }
@@ -93,22 +96,77 @@ void recover_soil_forces(const xFemData& data, const SoilPass& soil, const std::
   }
 }
 
+// Solves a square system of finite numbers with its rows and columns scaled.
+OstrelErrorType solve_scaled(const arma::Mat<double>& matrix, std::vector<double>& rhs) {
+  if (matrix.is_empty() || !matrix.is_square() || rhs.size() != matrix.n_rows) {
+    return errEquationSolve;
+  }
+  try {
+    arma::Col<double> solution;
+    const bool solved = arma::solve(solution, matrix, arma::Col<double>(rhs),
+                                    arma::solve_opts::equilibrate + arma::solve_opts::no_approx);
+    if (!solved || !solution.is_finite()) return errEquationSolve;
+    rhs.assign(solution.begin(), solution.end());
+    return ostrel::ok;
+  } catch (...) {
+    return errEquationSolve;
+  }
+}
+
+// Gives the matrix of the beam back as it was. It takes the supports of a pass itself, since a copy
+// would be one more matrix of its size, and no support reaches beyond its band.
+class LentMatrix {
+public:
+  explicit LentMatrix(arma::Mat<double>& matrix) : matrix_(matrix) {
+    band_.reserve((2 * ostrel::fem::half_band_width + 1) * matrix.n_cols);
+    visit([this](double& entry) { band_.push_back(entry); });
+  }
+  ~LentMatrix() {
+    auto next = band_.begin();
+    visit([&next](double& entry) { entry = *next++; });
+  }
+  LentMatrix(const LentMatrix&) = delete;
+  LentMatrix& operator=(const LentMatrix&) = delete;
+
+  bool is_finite() {
+    bool finite = true;
+    visit([&finite](double& entry) { finite = finite && std::isfinite(entry); });
+    return finite;
+  }
+
+private:
+  template <class Action>
+  void visit(const Action& action) {
+    for (std::size_t j = 0; j < matrix_.n_cols; ++j) {
+      const auto rows = ostrel::fem::band_rows(j, matrix_.n_rows);
+      for (std::size_t i = rows.first; i < rows.end; ++i) {
+        action(matrix_.at(i, j));
+      }
+    }
+  }
+
+  arma::Mat<double>& matrix_;
+  std::vector<double> band_;
+};
+
 // The passes of one solution.
 class SecantIteration {
 public:
   SecantIteration(xFemSolver& solver, const std::vector<info_Fem_anchor>& anchors,
                   const xFemData& data, SpringLine& line, const std::vector<double>& total)
-      : solver_(solver), anchors_(anchors), data_(data), line_(line), total_(total) {
-    for (std::size_t i = 0; i < line.size(); ++i)
+      : solver_(solver), anchors_(anchors), data_(data), line_(line), rhs_(total) {
+    ostrel::fem::prescribe_all(data, rhs_);
+    for (std::size_t i = 0; i < line.size(); ++i) {
       soil.nodes.push_back(line.node(i));
+    }
   }
 
   OstrelErrorType run(const xFemSolverOptions& options) {
-    std::vector<double> previous(total_.size(), 0.0);
-    for (int passes = 0;; previous = d) {
+    std::vector<double> previous(rhs_.size(), 0.0);
+    for (int passes = 0;; previous.swap(d)) {
       line_.evaluate(previous, soil.stiffness);
       if (line_.complete() < line_.size()) return errFemNodeNotFound;
-      d = total_;
+      d = rhs_;
       const OstrelErrorType code = passes == 0 ? solve_dense() : solve_band();
       if (code != ostrel::ok) return code;
       if (options.linear) return ostrel::ok;
@@ -124,24 +182,25 @@ public:
   std::vector<double> d;  // the last solution, by dof
 
 private:
-  // The first pass decides on a singular system.
   OstrelErrorType solve_dense() {
-    arma::Mat<double> working = solver_.K;
-    const auto code = solver_.appBoundCond(anchors_, data_, soil.by_node(), working, d);
-    return code != ostrel::ok ? code : solver_.solveEQ(working, d);
+    LentMatrix lent(solver_.K);
+    const auto code = solver_.appBoundCond(anchors_, data_, soil.by_node(), solver_.K, d);
+    if (code != ostrel::ok) return code;
+    // As `solveEQ`, which would look for numbers that are not finite among the zeros too.
+    return lent.is_finite() ? solve_scaled(solver_.K, d) : errEquationSolve;
   }
 
+  // Whether the equations are singular is for the dense form to say.
   OstrelErrorType solve_band() {
     if (!band_) band_.emplace(solver_.K, anchors_, data_);
-    ostrel::fem::prescribe_all(data_, d);
-    return band_->solve(soil.nodes, soil.stiffness, d);
+    return band_->solve(soil.nodes, soil.stiffness, d) ? ostrel::ok : solve_dense();
   }
 
   xFemSolver& solver_;
   const std::vector<info_Fem_anchor>& anchors_;
   const xFemData& data_;
   SpringLine& line_;
-  const std::vector<double>& total_;
+  std::vector<double> rhs_;  // the loads, and the prescribed displacements in their place
   std::optional<BandedBeam> band_;
 };
 
@@ -186,9 +245,11 @@ OstrelErrorType xFemSolver::build_SkSpring(const xFemData& data,
   springs.clear();
   SpringLine line(data, modulus, elemLength, spacing);
   std::vector<double> stiffness;
-  line.evaluate(displacements ? *displacements : std::vector<double>{}, stiffness);
-  for (std::size_t i = 0; i < stiffness.size(); ++i)
+  const std::vector<double> none;
+  line.evaluate(displacements ? *displacements : none, stiffness);
+  for (std::size_t i = 0; i < stiffness.size(); ++i) {
     springs[line.node(i)] = stiffness[i];
+  }
   return line.complete() == line.size() ? ostrel::ok : errFemNodeNotFound;
 }
 
@@ -219,17 +280,5 @@ OstrelErrorType xFemSolver::appNodalConstr(int dof, const std::map<int, double>&
 }
 
 OstrelErrorType xFemSolver::solveEQ(const arma::Mat<double>& matrix, std::vector<double>& rhs) {
-  if (matrix.is_empty() || !matrix.is_square() || rhs.size() != matrix.n_rows) {
-    return errEquationSolve;
-  }
-  try {
-    arma::Col<double> solution;
-    const bool solved = arma::solve(solution, matrix, arma::Col<double>(rhs),
-                                    arma::solve_opts::equilibrate + arma::solve_opts::no_approx);
-    if (!solved || !solution.is_finite()) return errEquationSolve;
-    rhs.assign(solution.begin(), solution.end());
-    return ostrel::ok;
-  } catch (...) {
-    return errEquationSolve;
-  }
+  return matrix.is_finite() ? solve_scaled(matrix, rhs) : errEquationSolve;
 }

@@ -30,14 +30,13 @@ std::size_t nodes_in(const std::vector<double>& by_dof, std::size_t nodes) {
 
 // K d, reading the band of K alone: the beam has nothing beyond it.
 std::vector<double> times_beam(const arma::Mat<double>& K, const std::vector<double>& d) {
-  constexpr std::size_t half_width = ostrel::fem::dofs_per_element - 1;
-  const std::size_t size = std::min<std::size_t>(K.n_rows, d.size());
+  const std::size_t size = std::min<std::size_t>({K.n_rows, K.n_cols, d.size()});
   std::vector<double> product(d.size(), 0.0);
   for (std::size_t j = 0; j < size; ++j) {
-    const std::size_t first = j > half_width ? j - half_width : 0;
-    const std::size_t end = std::min(size, j + half_width + 1);
-    for (std::size_t i = first; i < end; ++i)
+    const auto rows = ostrel::fem::band_rows(j, size);
+    for (std::size_t i = rows.first; i < rows.end; ++i) {
       product[i] += K.at(i, j) * d[j];
+    }
   }
   return product;
 }
@@ -116,8 +115,9 @@ OstrelErrorType xFemSolver::getNodalForce(std::vector<double>& total, std::vecto
                                           std::map<int, xFemNodeData>& out) {
   if (total.size() != d.size()) return errNodeCountModel;
   d = times_beam(K, d);
-  for (std::size_t i = 0; i < d.size(); ++i)
+  for (std::size_t i = 0; i < d.size(); ++i) {
     d[i] = -(d[i] - total[i]);
+  }
   for (std::size_t n = 0; n < nodes_in(d, Nn); ++n) {
     const auto force = at_node(d, n);
     if (!is_reported(force)) continue;

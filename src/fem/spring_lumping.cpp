@@ -22,8 +22,9 @@ SpringLine::SpringLine(const xFemData& data, const std::map<int, NodeModulus>& m
     spring.node = node;
     spring.law = &law;
   }
-  while (complete_ < springs_.size() && lay_out(data, lengths, complete_))
+  while (complete_ < springs_.size() && lay_out(data, lengths, complete_)) {
     ++complete_;
+  }
 }
 
 bool SpringLine::has_node_at(std::size_t position, int node) const {
