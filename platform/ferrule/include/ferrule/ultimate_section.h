@@ -56,11 +56,12 @@ public:
   ///               of the moment (of Mx > 0 when there is none); where N itself is out of reach,
   ///               and on -1 where there is an outline, the plane (N / A, M / J) of a plain elastic
   ///               section of modulus 1 N/mm². Otherwise zero.
-  /// @param tol, maxIter  kept for the interface; the result is exact but for rounding
+  /// @param tol, max_iterations  kept for the interface; the result is exact but for rounding
   /// @retval 1   the forces lie within the ultimate domain
   /// @retval 0   they lie outside
   /// @retval -1  a force is not finite, or the section is empty or unusable
-  int solveEquilibrium(double N, double Mx, double My, Deform& plane, double tol, int maxIter);
+  int solveEquilibrium(double N, double Mx, double My, Deform& plane, double tol,
+                       int max_iterations);
 
   /// The largest moment in a direction that the section carries together with N, with no moment at
   /// right angles to it.
@@ -70,12 +71,12 @@ public:
   /// @param moment  the moment, >= 0 in every direction; 0 on false [N mm]
   /// @param second  what is left of the moment at right angles, 0 but for rounding [N mm]
   /// @param work    the ultimate strain plane; left alone on false
-  /// @param tol, maxIter, flag  kept for the interface; the result is exact but for rounding
+  /// @param tol, max_iterations, flag  kept for the interface; the result is exact but for rounding
   /// @return false when N lies outside the axial capacity, when the section carries N only with a
   ///         moment that does not lie in this direction, when an argument is not finite, and when
   ///         the section is empty or unusable
   bool resistingMoment(double N, double angle, double& moment, double& second, double tol,
-                       Deform& work, int maxIter, bool flag);
+                       Deform& work, int max_iterations, bool flag);
 
 private:
   std::vector<std::unique_ptr<BaseDomain>> components_;
