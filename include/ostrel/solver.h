@@ -75,12 +75,12 @@ public:
   /// @retval errNoFemElements  no beam
   OstrelErrorType applyDeadLoad_new(xFemData* fem, double& w, double spacing,
                                     std::map<int, PressAtEnds>& pressures,
-                                    std::map<int, xFemNodeData>& nodalForces);
+                                    std::map<int, xFemNodeData>& nodal_forces);
 
   /// The weight of the wall as forces on the nodes; no analysis calls it.
   /// @retval errNoFemElements  no beam
   OstrelErrorType applyDeadLoad_old(xFemData* fem, double& w,
-                                    std::map<int, xFemNodeData>& nodalForces);
+                                    std::map<int, xFemNodeData>& nodal_forces);
 
   /// Adds pressure diagrams, one segment for each element from the head down.
   ///
@@ -99,9 +99,9 @@ public:
   /// Places one load of the wall on the nodes of the element that holds it; exactly on a node it
   /// belongs to the element above.
   /// @retval errLoadUndefined  a load deeper than the foot by more than 0.001 mm, of an unknown
-  ///         class or none, or no beam; `nodalForces` are as before
+  ///         class or none, or no beam; `nodal_forces` are as before
   OstrelErrorType applyShpileLoads(double spacing, xAction& action, xFemData* fem,
-                                   xShpileLoad* load, std::map<int, xFemNodeData>& nodalForces);
+                                   xShpileLoad* load, std::map<int, xFemNodeData>& nodal_forces);
 
   /// The pressure of one load on the ground; without any diagram for an unknown class, no load or
   /// no combination.

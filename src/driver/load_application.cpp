@@ -52,7 +52,7 @@ void add(const PlacedElement& place, const EndReactions& ends,
 
 OstrelErrorType xSolver::applyDeadLoad_new(xFemData* fem, double& w, double spacing,
                                            std::map<int, PressAtEnds>& pressures,
-                                           std::map<int, xFemNodeData>& nodalForces) {
+                                           std::map<int, xFemNodeData>& nodal_forces) {
   pressures.clear();
   if (!fem) return errNoFemElements;
   std::optional<PlacedElement> top;
@@ -66,7 +66,7 @@ OstrelErrorType xSolver::applyDeadLoad_new(xFemData* fem, double& w, double spac
     if (!here) return errFemNodeNotFound;
     if (!top || (here->y_start + here->y_end) / 2.0 < (top->y_start + top->y_end) / 2.0) top = here;
   }
-  nodalForces.clear();
+  nodal_forces.clear();
   const xPile_Sheetpiling* wall = ostrel::model::pile_wall(data);
   if (!wall) return errNoWall;
   if (!top) return ostrel::ok;
@@ -75,17 +75,17 @@ OstrelErrorType xSolver::applyDeadLoad_new(xFemData* fem, double& w, double spac
   const int head = top->y_start < top->y_end ? element.getStartNode() : element.getEndNode();
   const double cap_beam_area = spacing * wall->getBtrave() - element.getArea();
   const double cap_beam_weight = cap_beam_area * wall->getHtrave() * w;
-  nodalForces[head].x = cap_beam_weight <= 0.0 ? 0.0 : cap_beam_weight;  // NaN stays NaN
+  nodal_forces[head].x = cap_beam_weight <= 0.0 ? 0.0 : cap_beam_weight;  // NaN stays NaN
   return ostrel::ok;
 }
 
 OstrelErrorType xSolver::applyDeadLoad_old(xFemData* fem, double& w,
-                                           std::map<int, xFemNodeData>& nodalForces) {
+                                           std::map<int, xFemNodeData>& nodal_forces) {
   if (!fem) return errNoFemElements;
   for (const xElemData& element : fem->elements) {
     const double half = element.getArea() * element.getL() * w / 2.0;
-    nodalForces[element.getStartNode()].x += half;
-    nodalForces[element.getEndNode()].x += half;
+    nodal_forces[element.getStartNode()].x += half;
+    nodal_forces[element.getEndNode()].x += half;
   }
   return ostrel::ok;
 }
@@ -109,7 +109,7 @@ OstrelErrorType xSolver::applyPress(const std::vector<xLayerPress>& press,
 
 OstrelErrorType xSolver::applyShpileLoads(double spacing, xAction& action, xFemData* fem,
                                           xShpileLoad* load,
-                                          std::map<int, xFemNodeData>& nodalForces) {
+                                          std::map<int, xFemNodeData>& nodal_forces) {
   if (!fem) return errLoadUndefined;
   const double f = action.getFactor(actSecond);
   if (const auto* force = dynamic_cast<const xConcenterdLoad*>(load)) {
@@ -120,7 +120,7 @@ OstrelErrorType xSolver::applyShpileLoads(double spacing, xAction& action, xFemD
     add(*place,
         ostrel::driver::fixed_end_force(c * f * force->force[0], c * f * force->force[1], a,
                                         place->element->getL()),
-        nodalForces);
+        nodal_forces);
     return ostrel::ok;
   }
   if (const auto* torque = dynamic_cast<const xTorqueLoad*>(load)) {
@@ -130,7 +130,7 @@ OstrelErrorType xSolver::applyShpileLoads(double spacing, xAction& action, xFemD
     const double a = torque->getPosition() - place->y_start;
     add(*place,
         ostrel::driver::fixed_end_moment(c * f * torque->getValue(), a, place->element->getL()),
-        nodalForces);
+        nodal_forces);
     return ostrel::ok;
   }
   return errLoadUndefined;

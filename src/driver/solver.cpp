@@ -3,6 +3,7 @@
 
 #include "model/pile_wall.h"
 
+#include <cassert>
 #include <cstdint>
 #include <utility>
 
@@ -46,6 +47,7 @@ xVeldErrorsType xSolver::solve(xSheetpilingRes& results, xUltimateLimitStates& u
     return true;
   };
   if (failed(model.create_Stratigraphy(&data))) return veldError;
+  assert(wall);  // without a wall there is no stratigraphy
   data.restriction.imposed.push_back(held_foot(wall->getLength()));
   if (failed(model.create_FemModel(&data))) return veldError;
   if (!solveCombinations(results, errors)) return veldError;
