@@ -37,6 +37,7 @@ public:
   xFemSolver(const xFemSolver&) = default;
   xFemSolver(xFemSolver&&) = default;
   xFemSolver& operator=(const xFemSolver&) = default;
+  // Not noexcept: a matrix may allocate when it moves. NOLINTNEXTLINE(bugprone-exception-escape)
   xFemSolver& operator=(xFemSolver&&) = default;
 
   std::uint32_t getNn() const { return Nn; }
