@@ -36,13 +36,14 @@ STANDS_ON = {
 
 # A room that stands on one part of another may include the headers named here, and what that
 # other room stands on.
+FRAME = ("check_frame*.h", "verification_frame*.h")
 PARTS_OF = {
     "soil": {"geotech": ("bearing_capacity*.h", "foundation_bearing*.h")},
     "fem": {"soil": ("*spring*.h",)},
     "structural": {"fem": ("*results*.h",)},
-    "anchors": {"structural": ("*check_frame*.h",), "fem": ("*results*.h",)},
-    "geotech": {"structural": ("*check_frame*.h",), "fem": ("*results*.h",)},
-    "slope": {"structural": ("*check_frame*.h",)},
+    "anchors": {"structural": FRAME, "fem": ("*results*.h",)},
+    "geotech": {"structural": FRAME, "fem": ("*results*.h",)},
+    "slope": {"structural": FRAME},
 }
 
 # The platform libraries below a room; they pass upwards as the rooms do.
