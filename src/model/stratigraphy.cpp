@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 
 namespace ostrel::model {
 
@@ -96,30 +97,33 @@ bool split_layer(double depth, const xWaterTable& water, xSoilLayer& layer,
   const double bottom = layer.getDepth() + layer.getThickness();
   if (!(depth > layer.getDepth() && depth < bottom)) return false;
   xSoilLayer upper = upper_piece(layer, depth);
-  insert_water_table(water, upper, column);
   layer.setDepth(depth);
   layer.setThickness(bottom - depth);
   layer.set_Angle(0.0);
+  insert_water_table(water, upper, column);  // last: `layer` may be one of the column
   return true;
 }
 
 void insert_water_table(const xWaterTable& water, xSoilLayer& layer,
                         std::vector<xSoilLayer>& column) {
   const double water_depth = -water.getLivelloMonte();
+  std::optional<xSoilLayer> dry;
   if (water.getIsDefined() && layer.getDepth() + layer.getThickness() > water_depth) {
     layer.setUnderWater(true);
     if (water_depth > layer.getDepth()) {
-      xSoilLayer upper = upper_piece(layer, water_depth);
-      upper.setUnderWater(false);
-      upper.discretize();
+      dry = upper_piece(layer, water_depth);
+      dry->setUnderWater(false);
+      dry->discretize();
       layer.setDepth(water_depth);
-      layer.setThickness(layer.getThickness() - upper.getThickness());
+      layer.setThickness(layer.getThickness() - dry->getThickness());
       layer.set_Angle(0.0);
-      column.push_back(std::move(upper));
     }
   }
   layer.discretize();
-  column.push_back(layer);
+  // A layer that is itself one of the column is lost as soon as the column grows.
+  xSoilLayer finished = layer;
+  if (dry) column.push_back(std::move(*dry));
+  column.push_back(std::move(finished));
 }
 
 OstrelErrorType build_column(const std::vector<xBoundSoilLayer>& layers, const xWaterTable& water,

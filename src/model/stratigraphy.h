@@ -45,12 +45,14 @@ void snap(Borders& borders, const std::vector<double>& elevations, double tolera
 xSoilLayer uncut_layer(const xBoundSoilLayer& source, const Borders& borders, double step);
 
 /// Cuts `layer` at `depth` [mm] if that lies strictly inside: the upper piece is finished into
-/// `column`, `layer` becomes the lower one, without a slope. @return whether it was cut
+/// `column`, `layer` becomes the lower one, without a slope. It may be one of the column.
+/// @return whether it was cut
 bool split_layer(double depth, const xWaterTable& water, xSoilLayer& layer,
                  std::vector<xSoilLayer>& column);
 
 /// Finishes `layer`: splits it at the water on the retained side if that lies inside, gives it its
-/// levels and appends it to `column`. A layer is under water if its bottom lies below the level.
+/// levels and appends it to `column`, of which it may itself be one. A layer is under water if its
+/// bottom lies below the level.
 void insert_water_table(const xWaterTable& water, xSoilLayer& layer,
                         std::vector<xSoilLayer>& column);
 

@@ -77,6 +77,28 @@ TEST(SheetpilingModel, SplitsALayerIntoItsOwnLayers) {
   EXPECT_THAT(model.layers, ElementsAre(LayerOf(0.0, 400.0), LayerOf(400.0, 600.0)));
 }
 
+// The vector of the layers is full, so each append moves the layer that is being cut.
+TEST(SheetpilingModel, SplitsALayerOfItsOwn) {
+  xSheetpilingModel model;
+  model.layers.resize(1);
+  model.layers[0].setThickness(1000.0);
+  model.layers[0].soil.setName("a name too long to be kept inside of the record of the soil");
+  model.layers.shrink_to_fit();
+  EXPECT_TRUE(model.splitLayer(400.0, xWaterTable{}, model.layers[0]));
+  EXPECT_THAT(model.layers, ElementsAre(LayerOf(400.0, 600.0), LayerOf(0.0, 400.0)));
+
+  xWaterTable water;
+  water.setIsDefined(true);
+  water.setLivelloMonte(-700.0);
+  model.layers.shrink_to_fit();
+  model.insert_WaterTable(water, model.layers[0]);
+  EXPECT_THAT(model.layers, ElementsAre(WetLayerOf(700.0, 300.0), DryLayerOf(0.0, 400.0),
+                                        DryLayerOf(400.0, 300.0), WetLayerOf(700.0, 300.0)));
+  for (const xSoilLayer& layer : model.layers) {
+    EXPECT_EQ(layer.soil.getName(), model.layers[0].soil.getName());
+  }
+}
+
 TEST(Stratigraphy, WithoutAWallIsCode5BeforeAnythingElse) {
   xSheetpilingModel model;
   EXPECT_EQ(model.create_Stratigraphy(nullptr), errNoWall);
