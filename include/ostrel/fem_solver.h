@@ -63,7 +63,8 @@ public:
 
   /// Fills `K` and `elemK` from `topology`, `elemLength` and the sections of the elements; an
   /// element without length brings entries that are not finite.
-  /// @retval errNodeCountModel  `data` is not the beam of `takeSizes`, or there is no topology yet
+  /// @retval errNodeCountModel  `data` is not the beam of `takeSizes`, there is no topology yet, or
+  ///         there are more than 5000 elements: the dense matrix would not fit the memory
   OstrelErrorType buildBStif(const xFemData& data);
 
   /// Adds the addition `getDembinc` to `Dembin` and spreads that length evenly over the elements

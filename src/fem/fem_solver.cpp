@@ -2,6 +2,7 @@
 #include "ostrel/fem_solver.h"
 
 #include "fem/beam_assembly.h"
+#include "fem/beam_limit.h"
 
 #include <algorithm>
 
@@ -87,7 +88,7 @@ OstrelErrorType xFemSolver::buildLoadMat(const xFemData& data,
 
 OstrelErrorType xFemSolver::buildBStif(const xFemData& data) {
   elemK.clear();
-  if (!fits(data) || topology.size() != Ne) {
+  if (!fits(data) || topology.size() != Ne || Ne > ostrel::fem::most_elements) {
     K.reset();
     return errNodeCountModel;
   }

@@ -2,6 +2,7 @@
 // The secant iteration of the beam on springs of limited strength.
 #include "fem/banded_beam.h"
 #include "fem/beam_assembly.h"
+#include "fem/beam_limit.h"
 #include "fem/beam_supports.h"
 #include "fem/spring_lumping.h"
 #include "ostrel/fem_solver.h"
@@ -17,9 +18,6 @@ namespace {
 using ostrel::fem::BandedBeam;
 using ostrel::fem::DenseEquations;
 using ostrel::fem::SpringLine;
-
-// Beyond this the two dense matrices would take more than 3.6 GB.
-constexpr std::uint32_t most_elements = 5000;
 
 // Displacement across the wall at a spring.
 double across(const std::vector<double>& d, int node) {
@@ -208,7 +206,7 @@ private:
 
 OstrelErrorType xFemSolver::assemble(const xFemData& data,
                                      const std::vector<xFemLoadCond>& conditions) {
-  if (data.elements.size() > most_elements) return errNodeCountModel;
+  if (data.elements.size() > ostrel::fem::most_elements) return errNodeCountModel;
   takeSizes(data, conditions.size());
   if (const auto code = buildTopologyMat(); code != ostrel::ok) return code;
   if (const auto code = buildLoadMat(data, conditions); code != ostrel::ok) return code;

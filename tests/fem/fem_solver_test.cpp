@@ -260,6 +260,16 @@ TEST(BuildBStif, OfABeamWithoutElementsIsOneFreeNode) {
   EXPECT_THAT(solver.K, Each(0.0));
 }
 
+// 15 006 rows and columns would be 1.8 GB.
+TEST(BuildBStif, RefusesABeamOfMoreThan5000Elements) {
+  const xFemData data = beam_of(5001);
+  xFemSolver solver = sized(data);
+  ASSERT_EQ(solver.buildTopologyMat(), ostrel::ok);
+  EXPECT_EQ(solver.buildBStif(data), errNodeCountModel);
+  EXPECT_TRUE(solver.K.is_empty());
+  EXPECT_THAT(solver.elemK, IsEmpty());
+}
+
 TEST(Assembly, RefusesABeamOtherThanTheOneOfItsSizes) {
   xFemSolver solver = sized(beam_of(2), 1);
   ASSERT_EQ(solver.buildTopologyMat(), ostrel::ok);
