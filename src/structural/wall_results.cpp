@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: Apache-2.0
+// The records of the wall's verification, their safety factors and their stored forms.
+#include "ostrel/wall_check.h"
+#include "services/class_frame.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace {
+
+using Failures = std::vector<osg::ref_ptr<xCheckInfo>>;
+
+constexpr double unlimited = 1e10;
+
+// A failed section of a member, about to be listed.
+osg::ref_ptr<xCheckInfo> failed_section(const xCheckCombID& id, double sf, double abscissa,
+                                        bool is_shear) {
+  osg::ref_ptr<concreteCheckInfo> info = new concreteCheckInfo;
+  info->isShear = is_shear;
+  info->abscissa = abscissa;
+  info->sf = sf;
+  info->idObj = id.getIdObj();
+  info->combName = id.getCombName();
+  info->combIndex = id.getCombIndex();
+  return info.get();
+}
+
+// The smallest factor of single records; `fails(i)` makes the record of a failure.
+template <class Records, class FactorOf, class MakeFailure>
+void scan_records(xBaseResults& level, const Records& records, Failures* failures,
+                  const FactorOf& factor_of, const MakeFailure& make_failure) {
+  level.setSf(unlimited);
+  level.setIndex(0);
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    const double factor = factor_of(records[i]);
+    if (!(factor < level.getSf())) continue;
+    level.setSf(factor);
+    level.setIndex(static_cast<int>(i));
+    if (factor < 1.0 && failures) failures->push_back(make_failure(records[i], factor));
+  }
+}
+
+}  // namespace
+
+double& xSollVector::operator[](int position) {
+  static thread_local double nowhere;
+  nowhere = 0.0;
+  switch (position) {
+    case 0:
+      return z;
+    case 1:
+      return N;
+    case 2:
+      return T;
+    case 3:
+      return M;
+    default:
+      return nowhere;
+  }
+}
+
+std::string xSollVector::getIOClass() const {
+  return "xSollVector";
+}
+void xSollVector::pub_read(instream& in) {
+  ostrel::read_frame(in, *this);
+}
+void xSollVector::pub_write(outstream& out) const {
+  ostrel::write_frame(out, *this);
+}
+
+// Stored form, version 1.
+void xSollVector::Read(instream& in, int) {
+  ostrel::read_fields(in, z, N, T, M);
+}
+void xSollVector::Write(outstream& out) const {
+  ostrel::write_fields(out, z, N, T, M);
+}
+
+void xStructCombRes::reset() {
+  xCheckCombID::reset();
+  stresses.clear();
+}
+
+std::string xStructCombRes::getIOClass() const {
+  return "xStructCombRes";
+}
+void xStructCombRes::pub_read(instream& in) {
+  ostrel::read_frame(in, *this);
+}
+void xStructCombRes::pub_write(outstream& out) const {
+  ostrel::write_frame(out, *this);
+}
+
+// Stored form, version 5, without the base.
+void xStructCombRes::Read(instream& in, int version) {
+  ostrel::refuse_older_than(5, version);
+  ostrel::read_fields(in, stresses);
+}
+void xStructCombRes::Write(outstream& out) const {
+  ostrel::write_fields(out, stresses);
+}
+
+double xBendShearCombResults::getSfMin(Failures* failures) {
+  scan_records(
+      *this, sections, failures, [](const xSectionCheck& section) { return section.getSf(); },
+      [this](const xSectionCheck& section, double factor) {
+        const bool is_shear = section.shear.getSf() < section.flex.getSf();
+        return failed_section(*this, factor, section.abscissa, is_shear);
+      });
+  return sf;
+}
+
+void xBendShearCombResults::reset() {
+  xBaseResults::reset();
+  xCheckCombID::reset();
+  sections.clear();
+}
+
+std::string xBendShearCombResults::getIOClass() const {
+  return "xBendShearCombResults";
+}
+void xBendShearCombResults::pub_read(instream& in) {
+  ostrel::read_frame(in, *this);
+}
+void xBendShearCombResults::pub_write(outstream& out) const {
+  ostrel::write_frame(out, *this);
+}
+
+// Stored form, version 2, after its two bases.
+void xBendShearCombResults::Read(instream& in, int version) {
+  ostrel::refuse_older_than(2, version);
+  ostrel::read_fields(in, ostrel::base_frame<xBaseResults>(*this),
+                      ostrel::base_frame<xCheckCombID>(*this), sections);
+}
+void xBendShearCombResults::Write(outstream& out) const {
+  ostrel::write_fields(out, ostrel::base_frame<xBaseResults>(*this),
+                       ostrel::base_frame<xCheckCombID>(*this), sections);
+}
+
+double xBendShearResults::getSfMin(Failures* failures) {
+  sf = unlimited;
+  index = 0;
+  for (std::size_t i = 0; i < combinations.size(); ++i) {
+    const double factor = combinations[i].getSfMin(failures);
+    if (!(sf >= factor)) continue;
+    sf = factor;
+    index = static_cast<int>(i);
+  }
+  return sf;
+}
+
+void xBendShearResults::reset() {
+  xBaseResults::reset();
+  combinations.clear();
+}
+
+std::string xBendShearResults::getIOClass() const {
+  return "xBendShearResults";
+}
+void xBendShearResults::pub_read(instream& in) {
+  ostrel::read_frame(in, *this);
+}
+void xBendShearResults::pub_write(outstream& out) const {
+  ostrel::write_frame(out, *this);
+}
+
+// Stored form, version 1, after its base.
+void xBendShearResults::Read(instream& in, int) {
+  ostrel::read_fields(in, ostrel::base_frame<xBaseResults>(*this), combinations);
+}
+void xBendShearResults::Write(outstream& out) const {
+  ostrel::write_fields(out, ostrel::base_frame<xBaseResults>(*this), combinations);
+}
+
+double xShearCombResults::getSfMin(Failures* failures) {
+  scan_records(
+      *this, sections, failures, [](const xShear& shear) { return shear.getSf(); },
+      [this](const xShear& shear, double factor) {
+        return failed_section(*this, factor, shear.abscissa, true);
+      });
+  return sf;
+}
+
+void xShearCombResults::reset() {
+  xBaseResults::reset();
+  xCheckCombID::reset();
+  sections.clear();
+}
+
+std::string xShearCombResults::getIOClass() const {
+  return "xShearCombResults";
+}
+void xShearCombResults::pub_read(instream& in) {
+  ostrel::read_frame(in, *this);
+}
+void xShearCombResults::pub_write(outstream& out) const {
+  ostrel::write_frame(out, *this);
+}
+
+// Stored form, version 1, after its two bases.
+void xShearCombResults::Read(instream& in, int) {
+  ostrel::read_fields(in, ostrel::base_frame<xBaseResults>(*this),
+                      ostrel::base_frame<xCheckCombID>(*this), sections);
+}
+void xShearCombResults::Write(outstream& out) const {
+  ostrel::write_fields(out, ostrel::base_frame<xBaseResults>(*this),
+                       ostrel::base_frame<xCheckCombID>(*this), sections);
+}
+
+double xShearResults::getSfMin(Failures* failures) {
+  sf = unlimited;
+  index = 0;
+  for (xShearCombResults& combination : combinations) {
+    const double factor = combination.getSfMin(failures);
+    if (sf >= factor) sf = factor;
+  }
+  return sf;
+}
+
+void xShearResults::reset() {
+  xBaseResults::reset();
+  combinations.clear();
+}
+
+std::string xShearResults::getIOClass() const {
+  return "xShearResults";
+}
+void xShearResults::pub_read(instream& in) {
+  ostrel::read_frame(in, *this);
+}
+void xShearResults::pub_write(outstream& out) const {
+  ostrel::write_frame(out, *this);
+}
+
+// Stored form, version 1, after its base.
+void xShearResults::Read(instream& in, int) {
+  ostrel::read_fields(in, ostrel::base_frame<xBaseResults>(*this), combinations);
+}
+void xShearResults::Write(outstream& out) const {
+  ostrel::write_fields(out, ostrel::base_frame<xBaseResults>(*this), combinations);
+}
