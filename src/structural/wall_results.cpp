@@ -2,42 +2,22 @@
 // The records of the wall's verification, their safety factors and their stored forms.
 #include "ostrel/wall_check.h"
 #include "services/class_frame.h"
+#include "structural/verification_frame.h"
 
-#include <algorithm>
-#include <cstddef>
+using ostrel::structural::Failures;
+using ostrel::structural::scan_groups;
+using ostrel::structural::scan_records;
 
 namespace {
-
-using Failures = std::vector<osg::ref_ptr<xCheckInfo>>;
-
-constexpr double unlimited = 1e10;
 
 // A failed section of a member, about to be listed.
 osg::ref_ptr<xCheckInfo> failed_section(const xCheckCombID& id, double sf, double abscissa,
                                         bool is_shear) {
   osg::ref_ptr<concreteCheckInfo> info = new concreteCheckInfo;
+  ostrel::structural::identify(*info, id, sf);
   info->isShear = is_shear;
   info->abscissa = abscissa;
-  info->sf = sf;
-  info->idObj = id.getIdObj();
-  info->combName = id.getCombName();
-  info->combIndex = id.getCombIndex();
   return info.get();
-}
-
-// The smallest factor of single records; `fails(i)` makes the record of a failure.
-template <class Records, class FactorOf, class MakeFailure>
-void scan_records(xBaseResults& level, const Records& records, Failures* failures,
-                  const FactorOf& factor_of, const MakeFailure& make_failure) {
-  level.setSf(unlimited);
-  level.setIndex(0);
-  for (std::size_t i = 0; i < records.size(); ++i) {
-    const double factor = factor_of(records[i]);
-    if (!(factor < level.getSf())) continue;
-    level.setSf(factor);
-    level.setIndex(static_cast<int>(i));
-    if (factor < 1.0 && failures) failures->push_back(make_failure(records[i], factor));
-  }
 }
 
 }  // namespace
@@ -139,14 +119,7 @@ void xBendShearCombResults::Write(outstream& out) const {
 }
 
 double xBendShearResults::getSfMin(Failures* failures) {
-  sf = unlimited;
-  index = 0;
-  for (std::size_t i = 0; i < combinations.size(); ++i) {
-    const double factor = combinations[i].getSfMin(failures);
-    if (!(sf >= factor)) continue;
-    sf = factor;
-    index = static_cast<int>(i);
-  }
+  scan_groups(*this, combinations, failures);
   return sf;
 }
 
@@ -209,12 +182,8 @@ void xShearCombResults::Write(outstream& out) const {
 }
 
 double xShearResults::getSfMin(Failures* failures) {
-  sf = unlimited;
+  scan_groups(*this, combinations, failures);
   index = 0;
-  for (xShearCombResults& combination : combinations) {
-    const double factor = combination.getSfMin(failures);
-    if (sf >= factor) sf = factor;
-  }
   return sf;
 }
 
