@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ostrel/wall_check.h"
+
+#include "ostrel/results.h"
+#include "support/concrete_walls.h"
+#include "support/stream_round_trip.h"
+#include "support/wall_builder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using ostrel::testing::bytes_of;
+using ostrel::testing::circle;
+using ostrel::testing::common_settings;
+using ostrel::testing::frame_bytes;
+using ostrel::testing::read_stored;
+using ostrel::testing::rectangle_section;
+using ostrel::testing::stored;
+using ostrel::testing::unfactored;
+
+// Forces at the two ends of each element; M in kNm, N = -200 kN, T = 10 kN.
+xCombResults forces(const std::string& name, const std::vector<std::pair<double, double>>& at) {
+  xCombResults result;
+  result.setCombName(name);
+  result.setcombIndex(static_cast<int>(name.size()));
+  for (const auto& [z, moment] : at) {
+    result.femResults.axial.points.emplace_back(z, -200e3);
+    result.femResults.shear.points.emplace_back(z, 10e3);
+    result.femResults.moment.points.emplace_back(z, moment * 1e6);
+  }
+  return result;
+}
+
+xLoadComb combination(bool wanted) {
+  xLoadComb comb = unfactored("unused");
+  comb.checks[checkWallStructure] = wanted;
+  return comb;
+}
+
+class WallDesign : public ::testing::Test {
+protected:
+  WallDesign() {
+    auto ring = common_settings<xCircularReinfSettings>(20.0, 60.0);
+    ring->setMinRatio(0.5);
+    ring->setMaxRatio(4.0);
+    settings = ring.get();
+  }
+  OstrelErrorType collect(const std::vector<xCombResults>& results) {
+    return wall.collectStress(7, std::vector<xLoadComb>(results.size(), combination(true)),
+                              results);
+  }
+  OstrelErrorType design() { return wall.design(section.get(), settings); }
+  OstrelErrorType check() { return wall.check(section.get(), settings); }
+
+  xStructuralDesign wall;
+  osg::ref_ptr<xCrossSecProp> section = circle(800.0).get();
+  osg::ref_ptr<xReinforcement_Settings> settings;
+};
+
+TEST_F(WallDesign, CollectsTheForcesOfActiveCombinations) {
+  const std::vector<xCombResults> results{forces("A", {{0.0, 1.0}, {500.0, 2.0}}),
+                                          forces("BB", {{0.0, 3.0}, {500.0, 4.0}})};
+  ASSERT_EQ(wall.collectStress(7, {combination(false), combination(true)}, results), ostrel::ok);
+  ASSERT_EQ(wall.combResults.size(), 1U);
+  EXPECT_EQ(wall.combResults[0].getCombName(), "BB");
+  EXPECT_EQ(wall.combResults[0].getCombIndex(), 2);
+  EXPECT_EQ(wall.combResults[0].getIdObj(), 7);
+  const xSollVector& second = wall.combResults[0].stresses.at(1);
+  EXPECT_DOUBLE_EQ(second.z, 500.0);
+  EXPECT_DOUBLE_EQ(second.N, -200e3);
+  EXPECT_DOUBLE_EQ(second.T, 10e3);
+  EXPECT_DOUBLE_EQ(second.M, 4e6);
+}
+
+TEST_F(WallDesign, RefusesNumbersThatDoNotAgree) {
+  EXPECT_EQ(wall.collectStress(7, {combination(true)}, {}), errResultCount);
+  xCombResults ragged = forces("A", {{0.0, 1.0}});
+  ragged.femResults.shear.points.clear();
+  EXPECT_EQ(collect({ragged}), errResultCount);
+  xLoadComb without_table = combination(false);
+  without_table.checks.clear();
+  EXPECT_EQ(wall.collectStress(7, {without_table}, {forces("A", {})}), errNoCheckEnabled);
+  EXPECT_EQ(wall.collectStress(7, {}, {}), ostrel::ok);
+}
+
+TEST_F(WallDesign, WithoutAnActiveCombinationKeepsTheLeastReinforcement) {
+  ASSERT_EQ(design(), ostrel::ok);
+  ASSERT_EQ(wall.designedReinforcement.sections.size(), 1U);
+  EXPECT_DOUBLE_EQ(wall.designedReinforcement.sections[0]->getAbscissa(), 0.0);
+  EXPECT_EQ(wall.designedReinforcement.sections[0]->AValleEff().getNumber(), 8U);
+  ASSERT_EQ(check(), ostrel::ok);
+  EXPECT_DOUBLE_EQ(wall.getSfMin(nullptr), 1e10);
+}
+
+TEST_F(WallDesign, SizesEachAbscissaForTheWorstCombination) {
+  ASSERT_EQ(collect({forces("A", {{0.0, 0.0}, {500.0, 600.0}}),
+                     forces("B", {{0.0, 600.0}, {500.0, 0.0}})}),
+            ostrel::ok);
+  ASSERT_EQ(design(), ostrel::ok);
+  ASSERT_EQ(wall.designedReinforcement.sections.size(), 2U);
+  const auto& records = wall.designedReinforcement.sections;
+  EXPECT_GT(records[0]->AValleEff().getNumber(), 8U);
+  EXPECT_EQ(records[0]->AValleEff().getNumber(), records[1]->AValleEff().getNumber());
+  ASSERT_EQ(check(), ostrel::ok);
+  EXPECT_GE(wall.getSfMin(nullptr), 1.0);
+}
+
+// The node at 500 mm carries 100 kNm above and 600 kNm below: its record is that of the element
+// above, and the section below falls short.
+TEST_F(WallDesign, KeepsTheRecordOfTheElementAboveAnInnerNode) {
+  ASSERT_EQ(collect({forces("A", {{0.0, 0.0}, {500.0, 100.0}, {500.0, 600.0}, {900.0, 0.0}})}),
+            ostrel::ok);
+  ASSERT_EQ(design(), ostrel::ok);
+  ASSERT_EQ(wall.designedReinforcement.sections.size(), 3U);
+  EXPECT_EQ(wall.designedReinforcement.sections[1]->AValleEff().getNumber(), 8U);
+  ASSERT_EQ(check(), ostrel::ok);
+  std::vector<osg::ref_ptr<xCheckInfo>> failures;
+  EXPECT_LT(wall.getSfMin(&failures), 1.0);
+  EXPECT_DOUBLE_EQ(wall.bendShear.combinations[0].getIndex(), 2.0);
+  ASSERT_EQ(failures.size(), 1U);
+  const auto& failure = dynamic_cast<const concreteCheckInfo&>(*failures[0]);
+  EXPECT_FALSE(failure.isShear);
+  EXPECT_DOUBLE_EQ(failure.abscissa, 500.0);
+  EXPECT_EQ(failure.idObj, 7);
+}
+
+TEST_F(WallDesign, ChecksAgainWithAnotherReinforcement) {
+  ASSERT_EQ(collect({forces("A", {{0.0, 300.0}})}), ostrel::ok);
+  ASSERT_EQ(design(), ostrel::ok);
+  ASSERT_EQ(check(), ostrel::ok);
+  const double before = wall.getSfMin(nullptr);
+  wall.checkedReinforcement.sections[0]->AValleEff().setNumber(30);
+  ASSERT_EQ(check(), ostrel::ok);
+  EXPECT_GT(wall.getSfMin(nullptr), before);
+  EXPECT_EQ(wall.designedReinforcement.sections[0]->AValleEff().getNumber(), 8U);
+  ASSERT_EQ(wall.bendShear.combinations.size(), 1U);
+}
+
+TEST_F(WallDesign, FindsNoRecordInAnEmptyList) {
+  ASSERT_EQ(collect({forces("A", {{0.0, 1.0}})}), ostrel::ok);
+  ASSERT_EQ(design(), ostrel::ok);
+  wall.checkedReinforcement.reset();
+  EXPECT_EQ(check(), errNoReinfAtAbscissa);
+  wall.checkedReinforcement.sections.push_back(new xReinfRectSection);
+  EXPECT_EQ(check(), errReinfForSection);
+}
+
+// 1e-6 mm apart in binary: 0 and exactly the tolerance.
+TEST_F(WallDesign, TakesTwoAbscissaeAtTheToleranceForOneButDoesNotFindTheSecond) {
+  const double tolerance = 1e-6;
+  ASSERT_EQ(collect({forces("A", {{0.0, 1.0}, {tolerance, 1.0}})}), ostrel::ok);
+  ASSERT_EQ(design(), ostrel::ok);
+  EXPECT_EQ(wall.designedReinforcement.sections.size(), 1U);
+  EXPECT_EQ(check(), errNoReinfAtAbscissa);
+}
+
+TEST_F(WallDesign, NeedsASectionThatSuitsItsSettings) {
+  section = rectangle_section(600.0, 1000.0).get();
+  EXPECT_EQ(design(), errInvalidSection);
+  EXPECT_EQ(check(), errInvalidSection);
+  section = circle(800.0).get();
+  settings = nullptr;
+  EXPECT_EQ(design(), errInvalidSection);
+  section = nullptr;
+  EXPECT_EQ(check(), errInvalidSection);
+}
+
+TEST_F(WallDesign, AnswersForSectionsBeyondTheEnd) {
+  EXPECT_EQ(wall.getNumSez(0), 1U);
+  ASSERT_EQ(collect({forces("A", {{1.0, 2.0}, {3.0, 4.0}})}), ostrel::ok);
+  EXPECT_EQ(wall.getNumSez(0), 2U);
+  EXPECT_EQ(wall.getNumSez(1), 1U);
+  EXPECT_DOUBLE_EQ(wall.getSoll(0, 1)->z, 3.0);
+  for (const auto& [comb, sez] : {std::pair{0U, 2U}, {0U, 9U}, {1U, 0U}}) {
+    EXPECT_DOUBLE_EQ(wall.getSoll(comb, sez)->N, 0.0);
+  }
+}
+
+TEST_F(WallDesign, IsStoredWithoutTheIdentityOfItsForces) {
+  ASSERT_EQ(collect({forces("A", {{0.0, 300.0}})}), ostrel::ok);
+  ASSERT_EQ(design(), ostrel::ok);
+  ASSERT_EQ(check(), ostrel::ok);
+  EXPECT_EQ(stored(wall), frame_bytes(3, bytes_of([this](outstream& out) {
+                                        out << 1;
+                                        wall.combResults[0].pub_write(out);
+                                        wall.bendShear.pub_write(out);
+                                        wall.designedReinforcement.pub_write(out);
+                                        wall.checkedReinforcement.pub_write(out);
+                                      })));
+  xStructuralDesign read;
+  read_stored(read, stored(wall));
+  EXPECT_EQ(stored(read), stored(wall));
+  EXPECT_EQ(read.combResults[0].getIdObj(), -1);
+  EXPECT_EQ(read.combResults[0].getCombName(), "");
+  EXPECT_EQ(read.bendShear.combinations[0].getIdObj(), 7);
+  read.reset();
+  EXPECT_EQ(stored(read), stored(xStructuralDesign{}));
+}
+
+}  // namespace
