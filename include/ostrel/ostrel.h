@@ -57,12 +57,14 @@
 // Structural: the frame of the verifications and the reinforced concrete wall.
 #include "ostrel/check_frame.h"
 #include "ostrel/check_settings.h"
+#include "ostrel/concrete_section.h"
 #include "ostrel/materials.h"
 #include "ostrel/reinforcement.h"
 #include "ostrel/reinforcement_bars.h"
 #include "ostrel/reinforcement_settings.h"
 #include "ostrel/section_check.h"
 #include "ostrel/ultimate_limit_states.h"
+#include "ostrel/wall_check.h"
 
 // Geotech: bearing capacities and the verifications of the soil.
 #include "ostrel/foundation_bearing.h"
