@@ -42,9 +42,8 @@ public:
   ///     modulus * L / |d|    elsewhere,  L = getDyLim()
   ///
   /// @param displacement  d, across the wall, of either sign [mm]
-  /// @return [N/mm³]; NaN for a displacement or a limit that is NaN, not finite for a negative
-  /// limit
-  ///         at no displacement
+  /// @return [N/mm³]; NaN for a displacement or a limit that is NaN, not finite at no displacement
+  ///         where the limit is negative
   double getKmolla(double displacement) const;
 
   /// The pressure at a displacement d: modulus * d while |d| is below the limit L, and modulus * L

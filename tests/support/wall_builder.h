@@ -2,8 +2,7 @@
 /// @file  Builds inputs of walls for tests, each beginning with what matters
 // SPDX-License-Identifier: Apache-2.0
 //
-//     auto data = WallBuilder{}.pile(600,
-//     12000).excavation(6000).layer(sand()).water(-2000).build();
+//     auto data = WallBuilder{}.pile(600, 12000).excavation(6000).layer(sand()).build();
 //
 // Nothing is random and nothing hidden: what a test does not say is one of the round numbers below.
 
