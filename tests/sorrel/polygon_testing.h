@@ -106,16 +106,14 @@ public:
     return low + static_cast<int>(engine_() % static_cast<std::uint64_t>(high - low + 1));
   }
 
-  /// A star round (x, y) with vertices between a fifth of the radius and the whole.
+  /// A star round (x, y) that does not cross itself, with vertices between a fifth of the radius
+  /// and the whole, each in its own equal sector.
   Polygon star(int vertices, double radius, double x = 0.0, double y = 0.0) {
-    std::vector<double> angles;
-    for (int i = 0; i < vertices; ++i)
-      angles.push_back(number(0.0, 2.0 * std::numbers::pi));
-    std::sort(angles.begin(), angles.end());
     Pairs made;
-    for (const double angle : angles) {
-      const double reach = number(0.2, 1.0) * radius;
-      made.emplace_back(x + reach * std::cos(angle), y + reach * std::sin(angle));
+    for (int i = 0; i < vertices; ++i) {
+      const double angle = (i + number(0.0, 1.0)) * 2.0 * std::numbers::pi / vertices;
+      const double distance = number(0.2, 1.0) * radius;
+      made.emplace_back(x + distance * std::cos(angle), y + distance * std::sin(angle));
     }
     return closed(made);
   }

@@ -13,10 +13,9 @@ namespace sorrel {
 /// ends of the side alone, whichever way the side runs, so that two polygons with a common side are
 /// cut at one point.
 ///
-/// The result winds round every place within the box as often as the outline does. If it does not
-/// meet itself, it is therefore the one polygon that both have in common. It does meet itself, in
-/// stretches of the border that are run there and back, where the outline leaves the box more than
-/// once; then it tells no more than where the common polygons are.
+/// The result winds round every place within the box as often as the outline does. Where the
+/// outline leaves the box more than once, it meets itself in stretches of the border that are run
+/// there and back.
 Outline cut_to_box(const Outline& outline, const Box& box);
 
 }  // namespace sorrel

@@ -2,6 +2,7 @@
 #include "sorrel/polygon_boolean.h"
 
 #include "box_cut.h"
+#include "checked_overlay.h"
 #include "geos_geometry.h"
 #include "outline.h"
 #include "overlay_effort.h"
@@ -51,19 +52,6 @@ Geometry geometry_of(const Ground& ground) {
   return sorrel::covered_together(std::move(geometries));
 }
 
-Geometry overlay(const GEOSGeometry& a, const GEOSGeometry& b, iPolyOp::iPolyOperation operation) {
-  GEOSContextHandle_t geos = sorrel::geos_context();
-  switch (operation) {
-    case iPolyOp::Intersection:
-      return Geometry(GEOSIntersection_r(geos, &a, &b));
-    case iPolyOp::Union:
-      return Geometry(GEOSUnion_r(geos, &a, &b));
-    case iPolyOp::Difference:
-      return Geometry(GEOSDifference_r(geos, &a, &b));
-  }
-  return nullptr;
-}
-
 /// Any operation on any two grounds.
 Parts overlaid(const Ground& a, const Ground& b, iPolyOp::iPolyOperation operation) {
   Ground all = a;
@@ -72,31 +60,23 @@ Parts overlaid(const Ground& a, const Ground& b, iPolyOp::iPolyOperation operati
   const Geometry first = geometry_of(a);
   const Geometry second = geometry_of(b);
   if (!first || !second) return std::nullopt;
-  return sorrel::simple_parts(overlay(*first, *second, operation));
+  return sorrel::simple_parts(sorrel::checked_overlay(*first, *second, operation));
 }
 
-/// What an outline and a box have in common, if cutting along the borders of the box tells: not
-/// where the cut outline meets itself.
-Parts cut_common(const Outline& outline, const Box& box) {
-  Outline common = cut_to_box(outline, box);
+/// What an outline and a box have in common. Nothing is overlaid, which takes a tenth of the time
+/// and makes no vertex but where a side crosses a border or another side of the same outline.
+Parts common_with_box(const Outline& outline, const Box& box) {
+  const Outline common = cut_to_box(outline, box);
   if (!covers_ground(common)) return std::vector<Polygon>{};
   if (!sorrel::is_affordable({&common, 1})) return std::nullopt;
-  const Geometry polygon = polygon_geometry(common);
-  if (!polygon || !sorrel::is_simple(*polygon)) return std::nullopt;
-  return std::vector<Polygon>{sorrel::arranged(std::move(common))};
+  return sorrel::simple_parts(sorrel::covered_ground(common));
 }
 
-/// What two grounds have in common. With a box it takes a twentieth of the time of an overlay.
 Parts common_ground(const Ground& a, const Ground& b) {
   if (a.empty() || b.empty()) return std::vector<Polygon>{};
   if (a.size() == 1 && b.size() == 1) {
-    Parts common;
-    if (const std::optional<Box> box = as_box(a.front()); box) {
-      common = cut_common(b.front(), *box);
-    } else if (const std::optional<Box> other = as_box(b.front()); other) {
-      common = cut_common(a.front(), *other);
-    }
-    if (common) return common;
+    if (const std::optional<Box> box = as_box(a.front())) return common_with_box(b.front(), *box);
+    if (const std::optional<Box> box = as_box(b.front())) return common_with_box(a.front(), *box);
   }
   return overlaid(a, b, iPolyOp::Intersection);
 }
