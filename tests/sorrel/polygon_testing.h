@@ -83,11 +83,15 @@ inline ::testing::AssertionResult is_arranged(const Polygon& polygon) {
     if (y > all.front().second || (same(y, all.front().second) && x < all.front().first))
       return ::testing::AssertionFailure() << "begins below its top";
   }
-  double twice_area = 0.0;
-  for (std::size_t i = 1; i < all.size(); ++i)
-    twice_area += (all[i - 1].first - all[0].first) * (all[i].second - all[0].second)
-                - (all[i].first - all[0].first) * (all[i - 1].second - all[0].second);
-  if (!(twice_area > 0.0)) return ::testing::AssertionFailure() << "runs clockwise";
+  long double twice_area = 0.0L;  // a sliver of one ulp has a direction too
+  for (std::size_t i = 1; i < all.size(); ++i) {
+    const long double x0 = static_cast<long double>(all[i - 1].first) - all[0].first;
+    const long double y0 = static_cast<long double>(all[i - 1].second) - all[0].second;
+    const long double x1 = static_cast<long double>(all[i].first) - all[0].first;
+    const long double y1 = static_cast<long double>(all[i].second) - all[0].second;
+    twice_area += x0 * y1 - x1 * y0;
+  }
+  if (!(twice_area > 0.0L)) return ::testing::AssertionFailure() << "runs clockwise";
   return ::testing::AssertionSuccess();
 }
 
