@@ -71,5 +71,7 @@
 #include "ostrel/pile_bearing_settings.h"
 #include "ostrel/serviceability.h"
 
-// Slope: what the search of slip circles tries.
+// Slope: slip circles and the search for the worst of them.
+#include "ostrel/slip_circle.h"
 #include "ostrel/slope_settings.h"
+#include "ostrel/slope_stability.h"

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "model/pile_wall.h"
+#include "model/water_weight.h"
+#include "ostrel/slope_stability.h"
+#include "ostrel/tolerances.h"
+#include "slope/circle_cut.h"
+#include "slope/circle_trial.h"
+#include "slope/ignored_circles.h"
+#include "slope/stripes.h"
+
+#include <cmath>
+#include <cstdint>
+#include <utility>
+
+namespace {
+
+namespace slope = ostrel::slope;
+
+/// The radii to try at one centre.
+struct Radii {
+  std::int32_t count = 0;
+  double step = 0.0;  ///< [mm]
+};
+
+/// @oddity The largest radius is not tried unless it is also the smallest: the range is divided
+/// into as many steps as there are radii. Stored results depend on it.
+OstrelErrorType radii_of(const xGridPoint& point, double wanted_step, Radii& radii) {
+  const double range = point.getMaxRadius() - point.getMinRadius();
+  if (!(range >= 0.0) || !(wanted_step > 0.0)) return errCircleBounds;
+  const double count = std::trunc(range / wanted_step) + 1.0;
+  if (!(count <= slope::most_steps)) return errCircleBounds;
+  radii.count = static_cast<std::int32_t>(count);
+  radii.step = range / count;
+  return ostrel::ok;
+}
+
+/// The factor of resistance of a combination, 0 where it has none [-].
+double resistance_factor(const xLoadComb& comb) {
+  const auto factor = comb.ulsFactors.find(factorGlobalStability);
+  return factor == comb.ulsFactors.end() ? 0.0 : factor->second;
+}
+
+/// What the combination and the settings must be for a circle to have a factor.
+OstrelErrorType formulation_error(int formulation, double gamma_r) {
+  if (formulation != 0 && formulation != 1) return errStabilityFormula;
+  if ((*getTolerances())[xTolerances::partial_factor] > gamma_r) return errStabilityFactors;
+  return ostrel::ok;
+}
+
+}  // namespace
+
+OstrelErrorType xSlopeStability::check(double spacing, double gammaW,
+                                       const xSlopeStabilitySettings& settings,
+                                       const std::vector<xBoundSoilLayer>& layers,
+                                       const xBoundSoilLayer& boundary,
+                                       const std::vector<xLoadCond>& conds, const xLoadComb& comb,
+                                       const xWaterTable& water, Stripes& stripes,
+                                       std::vector<err_circle>& ignored) {
+  if (stripes.empty()) {
+    const auto code = slope::buildStripes(water, settings, layers, boundary, stripes);
+    if (code != ostrel::ok) return code;
+  }
+  data.sf = stabChekData{}.sf;
+  data.radius = 0.0;
+  StripesMin.clear();
+
+  const int formulation = settings.getFormulation();
+  const bool bishop = formulation == 1;
+  const double gamma_r = resistance_factor(comb);
+  const OstrelErrorType wrong_input = formulation_error(formulation, gamma_r);
+  slope::CircleTrial trial(stripes, spacing, gammaW, conds, comb, water);
+  Stripes slices;
+
+  // Keeps a circle and a copy of its slices.
+  const auto keep = [&](const xGridPointResults& best, const Center& center, double radius) {
+    data = {.xc = best.center.x,
+            .yc = best.center.y,
+            .sf = best.sf,
+            .radius = best.radius,
+            .Mstab = best.Mstab,
+            .Mdestab = best.Mdestab};
+    slope::intersectStripes(center, radius, stripes, slices);
+    double stab = 0.0;
+    double destab = 0.0;
+    calc_sfslope(center, radius, spacing, gammaW, 1.0, bishop, conds, comb, water, slices, stab,
+                 destab);
+    slope::copyStripes(slices, StripesMin);
+  };
+
+  for (const xGridPoint& point : settings.grid.points) {
+    Radii radii;
+    const auto code = radii_of(point, settings.getStepradius(), radii);
+    if (code != ostrel::ok) return code;
+    xGridPointResults best;
+    best.center = xPoint2d(point.center[0], point.center[1]);
+    bool any_valid = false;
+    slope::IgnoredAtCentre ignored_here(ignored, point.center[0], point.center[1]);
+    double radius = point.getMinRadius();
+    for (std::int32_t i = 0; i < radii.count; ++i, radius += radii.step) {
+      if (!trial.cut(slope::place(point.center), radius)) {
+        ignored_here.add(radius);
+        continue;
+      }
+      any_valid = true;
+      if (wrong_input != ostrel::ok) return wrong_input;
+      const slope::CircleMoments moments = trial.moments(bishop);
+      const double factor = CalculateSF(moments.destab, moments.stab) / gamma_r;
+      if (!(best.sf > factor)) continue;
+      best.sf = factor;
+      best.radius = radius;
+      best.Mstab = moments.stab / gamma_r;
+      best.Mdestab = moments.destab;
+      if (data.sf > best.sf) keep(best, point.center, radius);
+    }
+    if (any_valid) gridPointRes.push_back(best);
+  }
+  return gridPointRes.empty() ? errEmptyCentersGrid : ostrel::ok;
+}
+
+OstrelErrorType xSlopeStabilityDesign::check(const xSheetpilingData& data,
+                                             std::vector<xVeldError>& errors) {
+  const xPile_Sheetpiling* wall = ostrel::model::pile_wall(data);
+  if (!wall) return errNoWall;
+  xSlopeStability::Stripes stripes;
+  std::vector<err_circle> ignored;
+  for (const xLoadComb& comb : data.loadCombs) {
+    if (!comb.checkActive(checkGlobalStability)) continue;
+    xSlopeStability result;
+    result.setCheckID(wall->getIdObj(), comb.getcombIndex(), comb.getCombName());
+    const auto code = result.check(wall->getSpacing(), ostrel::model::water_unit_weight,
+                                   data.calcSettings.slope, data.soilLayers, data.boundLayer,
+                                   data.loadConds, comb, data.waterTable, stripes, ignored);
+    if (code != ostrel::ok) return code;
+    results.push_back(std::move(result));
+  }
+  slope::reportIgnoredCircles(ignored, errors);
+  computeSfMin();
+  return ostrel::ok;
+}
