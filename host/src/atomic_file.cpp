@@ -4,7 +4,6 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstdio>
-#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
@@ -72,17 +71,17 @@ private:
   bool renamed_ = false;
 };
 
-std::string reason(int error) {
-  return error == 0 ? std::string() : std::string(std::strerror(error));
+std::error_code code_of(int error) {
+  return {error, std::generic_category()};
 }
 
-std::string write_directly(const std::string& path, std::string_view contents) {
+std::error_code write_directly(const std::string& path, std::string_view contents) {
   std::FILE* file = std::fopen(path.c_str(), "wb");
-  if (file == nullptr) return reason(errno);
+  if (file == nullptr) return code_of(errno);
   int error = 0;
   if (std::fwrite(contents.data(), 1, contents.size(), file) != contents.size()) error = errno;
   if (std::fclose(file) != 0 && error == 0) error = errno;
-  return reason(error);
+  return code_of(error);
 }
 
 bool is_special(const std::string& path) {
@@ -100,26 +99,26 @@ fs::path resolved(const std::string& path) {
 
 }  // namespace
 
-std::string write_whole(const std::string& path, std::string_view contents) {
+std::error_code write_whole(const std::string& path, std::string_view contents) {
   if (is_special(path)) {
     std::error_code code;
-    if (fs::is_directory(path, code)) return reason(EISDIR);
+    if (fs::is_directory(path, code)) return code_of(EISDIR);
     return write_directly(path, contents);
   }
   const fs::path target = resolved(path);
   TemporaryFile file(target);
   file.write(contents);
   file.rename_to(target);
-  return reason(file.error());
+  return code_of(file.error());
 }
 
-std::string try_writing(const std::string& path) {
+std::error_code try_writing(const std::string& path) {
   if (is_special(path)) {
     std::error_code code;
-    return fs::is_directory(path, code) ? reason(EISDIR) : std::string();
+    return fs::is_directory(path, code) ? code_of(EISDIR) : std::error_code();
   }
   const TemporaryFile file(resolved(path));
-  return reason(file.error());
+  return code_of(file.error());
 }
 
 }  // namespace ostrel::host

@@ -4,17 +4,18 @@
 
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace ostrel::host {
 
 /// Writes `contents` under a temporary name beside `path` and renames it when all of it is on the
 /// disk: a reader finds the old file or the new one, never a part. A `path` that is no regular file
 /// (a terminal, a pipe) is written to directly.
-/// @return an empty text, or why it could not be written; then nothing is left behind
-std::string write_whole(const std::string& path, std::string_view contents);
+/// @return the error for which it could not be written; then nothing is left behind
+std::error_code write_whole(const std::string& path, std::string_view contents);
 
 /// Whether a file could be made in the folder of `path`, tried with an empty temporary one.
-/// @return an empty text, or why not
-std::string try_writing(const std::string& path);
+/// @return the error for which not
+std::error_code try_writing(const std::string& path);
 
 }  // namespace ostrel::host

@@ -8,6 +8,7 @@
 #include "core_result.h"
 #include "json_text.h"
 #include "problems.h"
+#include "system_reason.h"
 
 #include <optional>
 #include <ostream>
@@ -30,22 +31,19 @@ int run_core(const CoreOptions& options, std::ostream& out, std::ostream& err) {
   const std::optional<Job> job = load(options, err);
   if (!job) return exit_bad_input;
   const bool to_file = !options.result_file.empty();
-  const auto cannot_write = [&](const std::string& reason) {
-    err << options.texts(Text::cannot_write, options.result_file, reason) << "\n";
+  const auto cannot_write = [&](const std::error_code& error) {
+    err << options.texts(Text::cannot_write, options.result_file, reason_of(error, options.texts))
+        << "\n";
     return exit_bad_input;
   };
   if (to_file) {
-    if (const std::string reason = try_writing(options.result_file); !reason.empty()) {
-      return cannot_write(reason);
-    }
+    if (const auto error = try_writing(options.result_file)) return cannot_write(error);
   }
   const Outcome outcome = analyse(*job);
   const std::string text =
       core_result(outcome).dump(1, ' ', false, nlohmann::json::error_handler_t::replace) + "\n";
   if (to_file) {
-    if (const std::string reason = write_whole(options.result_file, text); !reason.empty()) {
-      return cannot_write(reason);
-    }
+    if (const auto error = write_whole(options.result_file, text)) return cannot_write(error);
   } else {
     out << text;
   }

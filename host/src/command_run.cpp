@@ -10,6 +10,7 @@
 #include "project_file.h"
 #include "result_files.h"
 #include "run_report.h"
+#include "system_reason.h"
 
 #include <filesystem>
 #include <optional>
@@ -30,25 +31,24 @@ std::optional<Project> load(const RunOptions& options, std::ostream& err) {
   return project;
 }
 
-// Makes the folder and tries it, before the analysis. @return an empty text, or why not
-std::string prepare(const std::string& folder) {
-  std::error_code code;
-  fs::create_directories(folder, code);
-  if (code) return code.message();
-  return try_writing((fs::path(folder) / "result.json").string());
+// Makes the folder and tries it, before the analysis.
+std::error_code prepare(const std::string& folder) {
+  std::error_code error;
+  fs::create_directories(folder, error);
+  return error ? error : try_writing((fs::path(folder) / "result.json").string());
 }
 
-// @return an empty text, or the file and why it could not be written
-std::string write_files(const RunOptions& options, const std::vector<ResultFile>& files,
-                        std::ostream& out) {
+// @return whether all files are written; the one that is not is told
+bool write_files(const RunOptions& options, const std::vector<ResultFile>& files,
+                 std::ostream& err) {
   for (const ResultFile& file : files) {
     const std::string path = (fs::path(options.folder) / file.name).string();
-    if (const std::string reason = write_whole(path, file.contents); !reason.empty()) {
-      return options.texts(Text::cannot_write, path, reason);
+    if (const std::error_code error = write_whole(path, file.contents)) {
+      err << options.texts(Text::cannot_write, path, reason_of(error, options.texts)) << "\n";
+      return false;
     }
   }
-  out << "\n" << options.texts(Text::written_to, options.folder) << "\n";
-  return {};
+  return true;
 }
 
 }  // namespace
@@ -56,24 +56,21 @@ std::string write_files(const RunOptions& options, const std::vector<ResultFile>
 int run_project(const RunOptions& options, std::ostream& out, std::ostream& err) {
   const std::optional<Project> project = load(options, err);
   if (!project) return exit_bad_input;
-  if (!options.folder.empty()) {
-    if (const std::string reason = prepare(options.folder); !reason.empty()) {
-      err << options.texts(Text::cannot_write, options.folder, reason) << "\n";
-      return exit_bad_input;
-    }
+  const bool to_files = !options.folder.empty();
+  if (const std::error_code error = to_files ? prepare(options.folder) : std::error_code()) {
+    err << options.texts(Text::cannot_write, options.folder, reason_of(error, options.texts))
+        << "\n";
+    return exit_bad_input;
   }
   const Job job = to_job(*project);
   const Outcome outcome = analyse(job);
   out << run_report(*project, job, outcome, options.texts);
-  if (!options.folder.empty()) {
-    if (const std::string message = write_files(options, result_files(*project, job, outcome), out);
-        !message.empty()) {
-      err << message << "\n";
-      return exit_bad_input;
-    }
-  }
   for (const xVeldError& message : outcome.messages)
     err << message.MakeErrStr() << "\n";
+  if (to_files) {
+    if (!write_files(options, result_files(*project, job, outcome), err)) return exit_bad_input;
+    out << "\n" << options.texts(Text::written_to, options.folder) << "\n";
+  }
   return outcome.verdict == veldError ? exit_analysis_failed : exit_fine;
 }
 

@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "json_text.h"
 
+#include "system_reason.h"
+
 #include <fmt/format.h>
 
 #include <array>
 #include <cctype>
 #include <cerrno>
 #include <cstdint>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -206,15 +208,17 @@ std::string child_path(const std::string& path, std::size_t index) {
 
 std::optional<std::string> read_file(const std::string& file, Problems& problems) {
   const Texts& texts = problems.texts();
-  const auto cannot = [&](const char* reason) {
-    problems.add("", texts(Text::cannot_read, reason), std::string(texts(Text::a_readable_file)));
+  const auto cannot = [&](const std::error_code& error) {
+    problems.add("", texts(Text::cannot_read, reason_of(error, texts)),
+                 std::string(texts(Text::a_readable_file)));
     return std::nullopt;
   };
   std::error_code code;
-  if (std::filesystem::is_directory(file, code)) return cannot(std::strerror(EISDIR));
+  if (std::filesystem::is_directory(file, code))
+    return cannot(make_error_code(std::errc::is_a_directory));
   errno = 0;
   std::ifstream stream(file, std::ios::binary);
-  if (!stream) return cannot(std::strerror(errno != 0 ? errno : EIO));
+  if (!stream) return cannot(last_error());
   std::string text;
   std::vector<char> block(1u << 16u);
   while (stream.read(block.data(), static_cast<std::streamsize>(block.size())),
@@ -226,7 +230,7 @@ std::optional<std::string> read_file(const std::string& file, Problems& problems
       return std::nullopt;
     }
   }
-  if (stream.bad()) return cannot(std::strerror(EIO));
+  if (stream.bad()) return cannot(make_error_code(std::errc::io_error));
   return text;
 }
 

@@ -15,7 +15,7 @@
 
 namespace ostrel::host {
 
-inline constexpr std::size_t max_file_bytes = 64u << 20u;  ///< larger files are not read
+inline constexpr std::size_t max_file_bytes = 32u << 20u;  ///< larger files are not read
 inline constexpr int max_json_depth = 64;                  ///< deeper nesting is refused
 
 /// Reads a whole file. On failure tells why and returns nothing.

@@ -5,10 +5,14 @@
 #include <iostream>
 
 int main(int argc, char** argv) {
+  using namespace ostrel::host;
   try {
-    return ostrel::host::run_program({argv + 1, argv + argc}, std::cout, std::cerr);
+    const int status = run_program({argv + 1, argv + argc}, std::cout, std::cerr);
+    if (std::cout.flush()) return status;
+    std::cerr << "ostrel: standard output cannot be written\n";
+    return exit_bad_input;
   } catch (const std::exception& error) {
     std::cerr << "ostrel: " << error.what() << "\n";
-    return ostrel::host::exit_analysis_failed;
+    return exit_analysis_failed;
   }
 }

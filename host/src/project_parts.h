@@ -29,12 +29,14 @@ SlopeInput read_slope(const ValueReader& value);
 /// Tells that another entry before this one has the same name.
 void refuse_repeated_name(const ValueReader& entry, const std::string& name);
 
-/// The names of `entries` with their positions. A name that stands twice is told.
+/// The names of `entries` with their positions; an empty one was refused before. A name that
+/// stands twice is told.
 template <class Entry>
 Names names_of(const std::vector<Entry>& entries, const std::vector<ValueReader>& values) {
   Names names;
   for (std::size_t i = 0; i < entries.size() && i < values.size(); ++i) {
-    if (!names.emplace(entries[i].name, i).second && !entries[i].name.empty()) {
+    if (entries[i].name.empty()) continue;
+    if (!names.emplace(entries[i].name, i).second) {
       refuse_repeated_name(values[i], entries[i].name);
     }
   }

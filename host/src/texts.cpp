@@ -166,6 +166,12 @@ constexpr std::array<Row, count> rows{{
     {Text::moment_sign_line, "Momenti positivi se tendono il lato dello scavo.",
      "Moments count positive where they stretch the side of the excavation."},
     {Text::no_names, "niente: non c'è alcun nome", "nothing: there are no names"},
+    {Text::no_such_file, "il file o la cartella non esiste", "no such file or folder"},
+    {Text::permission_denied, "permesso negato", "permission denied"},
+    {Text::is_a_folder, "è una cartella", "it is a folder"},
+    {Text::not_a_folder, "un file al posto di una cartella", "a file in the place of a folder"},
+    {Text::no_space, "disco pieno", "no space left"},
+    {Text::read_only, "disco in sola lettura", "read-only disk"},
 }};
 
 constexpr bool in_order() {

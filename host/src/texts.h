@@ -130,6 +130,13 @@ enum class Text : std::int32_t {
   support_moment_row,
   moment_sign_line,
   no_names,
+  // Reasons of the system
+  no_such_file,
+  permission_denied,
+  is_a_folder,
+  not_a_folder,
+  no_space,
+  read_only,
   count_
 };
 

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "run_report.h"
+
+#include "host_testing.h"
+#include "project_conversion.h"
+#include "text_table.h"
+
+#include <gmock/gmock.h>
+
+#include <sstream>
+
+namespace ostrel::host {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+using Json = nlohmann::json;
+
+std::string report_of(const Json& json, Language language = Language::english) {
+  const Project project = project_of(json);
+  const Job job = to_job(project);
+  return run_report(project, job, analyse(job), Texts(language));
+}
+
+TEST(RunReport, TellsTheWallAndItsSigns) {
+  const std::string report = report_of(sound_project());
+  EXPECT_THAT(report, HasSubstr("Piles of 600 mm diameter, 1.00 m between axes"));
+  EXPECT_THAT(report, HasSubstr("Length 10.00 m, excavation 4.00 m"));
+  EXPECT_THAT(report, HasSubstr("Forces are those of one pile (1.00 m of wall)."));
+  EXPECT_THAT(report, HasSubstr("positive towards the excavation"));
+}
+
+TEST(RunReport, TellsTheFiguresOfEachCombination) {
+  Json project = sound_project();
+  project["combinations"].push_back({{"name", "Second"}, {"type", "rare"}});
+  const std::string report = report_of(project);
+  EXPECT_THAT(report, HasSubstr("\nC - "));
+  EXPECT_THAT(report, HasSubstr("\nSecond - "));
+  EXPECT_THAT(report, HasSubstr("Largest moment"));
+  EXPECT_THAT(report, HasSubstr("Most used soil spring"));
+  EXPECT_THAT(report, Not(HasSubstr("Anchor")));
+  EXPECT_THAT(report, Not(HasSubstr("Support")));
+}
+
+TEST(RunReport, ListsAnchorsByNameOrNumberAndSupports) {
+  Json project = sound_project();
+  Json anchor = {{"level_m", -1}, {"inclination_deg", 15},  {"free_length_m", 8},
+                 {"number", 2},   {"tendon_area_mm2", 500}, {"E_GPa", 195}};
+  project["anchors"] = {anchor, anchor};
+  project["anchors"][1]["name"] = "Lower";
+  project["anchors"][1]["level_m"] = -2.5;
+  project["supports"] = {{"elastic", {{{"level_m", 0}, {"horizontal_kN_m", 100}}}}};
+  const std::string report = report_of(project);
+  EXPECT_THAT(report, HasSubstr("Anchor 1 "));
+  EXPECT_THAT(report, HasSubstr("Anchor Lower"));
+  EXPECT_THAT(report, HasSubstr("Support, horizontal force"));
+}
+
+TEST(RunReport, SaysWhichCombinationHasNoResult) {
+  Json project = sound_project();
+  project["combinations"].push_back(
+      {{"name", "too much"}, {"type", "ultimate"}, {"actions", {{"earth_pressure", 80}}}});
+  EXPECT_THAT(report_of(project), HasSubstr("\nNo result: see the messages.\n"));
+}
+
+TEST(RunReport, KeepsToTheWidthOfATerminal) {
+  Json project = sound_project();
+  project["name"] = std::string(300, 'n');
+  project["combinations"][0]["name"] = std::string(300, 'c');
+  for (const Language language : {Language::english, Language::italian}) {
+    std::istringstream lines(report_of(project, language));
+    for (std::string line; std::getline(lines, line);) {
+      EXPECT_LE(columns_of(line), terminal_width) << line;
+    }
+  }
+}
+
+TEST(RunReport, SpeaksItalian) {
+  EXPECT_THAT(report_of(sound_project(), Language::italian), HasSubstr("Spostamento massimo"));
+}
+
+}  // namespace
+}  // namespace ostrel::host
