@@ -8,8 +8,9 @@ namespace Ferrule {
 void BaseDomain::setExternBoundary(int n, const double* x, const double* y) {
   outline_.clear();
   if (n >= 3 && x != nullptr && y != nullptr) {
-    for (int i = 0; i < n; ++i)
+    for (int i = 0; i < n; ++i) {
       outline_.push_back({.x = x[i], .y = y[i]});
+    }
   }
   outline_changed();
 }

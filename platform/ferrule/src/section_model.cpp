@@ -120,8 +120,9 @@ bool SectionModel::refresh(std::span<const std::unique_ptr<BaseDomain>> componen
 
 /// False when a component is unusable; the gross section is that of the outlines there are.
 bool SectionModel::take_outlines(std::span<const std::unique_ptr<BaseDomain>> components) {
-  for (Held& held : held_)
+  for (Held& held : held_) {
     held.state = State::stale;
+  }
   parts_.clear();
   gross_parts_.clear();
   gross_ = {};
@@ -149,8 +150,9 @@ bool SectionModel::take_outlines(std::span<const std::unique_ptr<BaseDomain>> co
 }
 
 void SectionModel::take_bars(std::span<const std::unique_ptr<BaseDomain>> components) {
-  for (Held& held : held_)
+  for (Held& held : held_) {
     held.state = std::min(held.state, State::outlined);
+  }
   for (std::size_t i = 0; i < components.size(); ++i) {
     parts_[i].bars.clear();
     for (const SteelBar& bar : components[i]->bars()) {

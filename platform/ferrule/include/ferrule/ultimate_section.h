@@ -27,9 +27,12 @@ class SectionModel;
 ///   the peak strain Ec2, h being the extent of the concrete along the strain gradient. This one
 ///   has a say only when all of the section is compressed.
 ///
+/// Bars are thought to lie within the concrete, whose ultimate strain then bounds their shortening.
+///
 /// Results do not depend on a start or on what was asked before, and every search is bracketed: it
-/// ends after a bounded number of steps whatever the section. The operations keep working memory in
-/// the section: one section serves one thread.
+/// ends after a bounded number of steps whatever the section. Asking allocates memory only the
+/// first time and after a change of the components. The operations keep working memory in the
+/// section: one section serves one thread.
 class Section {
 public:
   Section();
@@ -63,8 +66,10 @@ public:
   int solveEquilibrium(double N, double Mx, double My, Deform& plane, double tol,
                        int max_iterations);
 
-  /// The largest moment in a direction that the section carries together with N, with no moment at
-  /// right angles to it.
+  /// The moment at which a direction leaves the ultimate domain at N, with no moment at right angles
+  /// to it. The neutral axis turns where outline or bars are not symmetric about the plane of
+  /// bending. Where the domain is indented and the direction leaves it several times, this is the
+  /// first time, or the last one when the section carries N only together with some moment.
   ///
   /// @param N       axial force, tension positive [N]
   /// @param angle   direction of the moment: Mx = moment cos(angle), My = moment sin(angle) [rad]

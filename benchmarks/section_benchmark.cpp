@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// Resisting moments, equilibrium tests and changes of bars a second, of an 800 mm pile as a polygon
+// of 40 sides: with 16 bars, symmetrical about the plane of bending, and with 15, where the neutral
+// axis turns. Axial forces vary over the whole capacity, so that no answer serves for the next.
+#include <ferrule/ultimate_section.h>
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <memory>
+#include <numbers>
+#include <vector>
+
+namespace {
+
+using std::numbers::pi;
+
+Ferrule::ClsSLUModel material() {
+  Ferrule::ClsSLUParameters p;
+  p.Es = 210'000;
+  p.GammaC = 1.5;
+  p.GammaS = 1.15;
+  p.Rck = 30;
+  p.AlfaCC = 0.85;
+  p.Fyk = 450;
+  p.Ec2 = 0.002;
+  p.Ecu = 0.0035;
+  p.Plastic = 1;
+  p.EudTension = p.EudCompression = 0.0675;
+  return Ferrule::ClsSLUModel(p);
+}
+
+std::vector<Ferrule::SteelBar> ring(int count) {
+  std::vector<Ferrule::SteelBar> bars(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) {
+    const double angle = 2 * pi * i / count;
+    bars[static_cast<std::size_t>(i)].setPosR(340 * std::cos(angle), 340 * std::sin(angle), 12);
+  }
+  return bars;
+}
+
+/// The section owns the domain.
+struct Pile {
+  explicit Pile(int bar_count) : bars(ring(bar_count)) {
+    std::vector<double> x;
+    std::vector<double> y;
+    for (int i = 0; i < 40; ++i) {
+      x.push_back(400 * std::cos(2 * pi * i / 40));
+      y.push_back(400 * std::sin(2 * pi * i / 40));
+    }
+    const Ferrule::ClsSLUModel model = material();
+    domain->setExternBoundary(40, x.data(), y.data());
+    domain->setMatModel(&model);
+    domain->setBars(bar_count, bars.data());
+    section.Add_Domain(domain);
+  }
+
+  Ferrule::Section section;
+  Ferrule::ClsDomain* domain = new Ferrule::ClsDomain;
+  std::vector<Ferrule::SteelBar> bars;
+};
+
+/// From nearly pure tension to nearly pure compression [N].
+double axial(std::int64_t step) {
+  return 2.5e6 - 1.2e4 * static_cast<double>(step % 997);
+}
+
+void resisting_moment(benchmark::State& state, double angle) {
+  Pile pile(static_cast<int>(state.range(0)));
+  double moment = 0.0;
+  double second = 0.0;
+  Ferrule::Deform plane;
+  std::int64_t step = 0;
+  for ([[maybe_unused]] const auto _ : state) {
+    pile.section.resistingMoment(axial(++step), angle, moment, second, 1e-7, plane, 20, false);
+    benchmark::DoNotOptimize(moment);
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK_CAPTURE(resisting_moment, in_the_plane_of_bending, 0.0)->Arg(16)->Arg(15);
+BENCHMARK_CAPTURE(resisting_moment, oblique, 0.3)->Arg(16);
+
+void equilibrium(benchmark::State& state, double moment) {
+  Pile pile(static_cast<int>(state.range(0)));
+  std::int64_t step = 0;
+  for ([[maybe_unused]] const auto _ : state) {
+    Ferrule::Deform plane;
+    const double N = 1e6 - 2e3 * static_cast<double>(++step % 997);
+    benchmark::DoNotOptimize(pile.section.solveEquilibrium(N, moment, 0.0, plane, 1e-4, 20));
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK_CAPTURE(equilibrium, inside, 3e8)->Arg(16)->Arg(15);
+BENCHMARK_CAPTURE(equilibrium, outside, 1.5e9)->Arg(16)->Arg(15);
+
+// As a design grows: a new ring of bars before every question, the outline stays.
+void new_bars(benchmark::State& state) {
+  Pile pile(16);
+  const std::vector<std::vector<Ferrule::SteelBar>> rings{ring(8), ring(12), ring(16), ring(20)};
+  double moment = 0.0;
+  double second = 0.0;
+  Ferrule::Deform plane;
+  std::size_t step = 0;
+  for ([[maybe_unused]] const auto _ : state) {
+    const auto& bars = rings[++step % rings.size()];
+    pile.domain->setBars(static_cast<int>(bars.size()), bars.data());
+    pile.section.resistingMoment(-5e5, 0.0, moment, second, 1e-7, plane, 20, false);
+    benchmark::DoNotOptimize(moment);
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(new_bars);
+
+}  // namespace
