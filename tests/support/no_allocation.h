@@ -1,6 +1,5 @@
 #pragma once
-/// @file  Counts allocations, for tests of the promise that there are none. Including it replaces
-///        the operator new of the test program
+/// @file  Counts allocations, for tests; replaces the operator new of the test program
 // SPDX-License-Identifier: Apache-2.0
 
 #include <atomic>

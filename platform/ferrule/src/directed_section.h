@@ -1,6 +1,5 @@
 #pragma once
-/// @file  A section seen along one direction: its forces for the strain planes that vary along it.
-///        Library: ferrule
+/// @file  The forces of strain planes that vary along one direction. Library: ferrule
 // SPDX-License-Identifier: Apache-2.0
 //
 // Notation: direction, level s, depth z and u as in outline_profile.h; here z is counted from the

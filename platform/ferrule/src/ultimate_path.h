@@ -1,6 +1,5 @@
 #pragma once
-/// @file  The ultimate strain planes along one direction, from tension to compression.
-///        Library: ferrule
+/// @file  Ultimate strain planes along one direction, tension to compression. Library: ferrule
 // SPDX-License-Identifier: Apache-2.0
 //
 // Planes along a direction are points (slope, top). Each limit is a line there, and the planes
