@@ -166,6 +166,25 @@ Json mesh_of(const xSheetpilingModel& model) {
           {"anchor_nodes", std::move(anchor_nodes)}};
 }
 
+Json displacement_checks_of(const xServiceabilityLimitStates& serviceability) {
+  Json list = Json::array();
+  for (const xServiceLimitDispCombRes& result : serviceability.displacements.results) {
+    list.push_back({{"name", result.getCombName()},
+                    {"index", result.getCombIndex()},
+                    {"head_pos", result.getHeadPos()},
+                    {"head_disp", result.getHeaddisp()},
+                    {"jts_pos", result.getJtsPos()},
+                    {"jts_disp", result.getJtsdisp()},
+                    {"head_lim", result.getHeadLim()},
+                    {"jts_lim", result.getJtsLim()}});
+  }
+  return list;
+}
+
+double least_factor_of(xServiceabilityLimitStates serviceability) {
+  return serviceability.getSfMin(nullptr);
+}
+
 }  // namespace
 
 Json core_result(const Outcome& outcome) {
@@ -173,11 +192,14 @@ Json core_result(const Outcome& outcome) {
   for (const xCombResults& combination : outcome.results.combResults) {
     combinations.push_back(combination_of(combination));
   }
+  const bool through = outcome.verdict != veldError;
   return {{"return", static_cast<int>(outcome.verdict)},
           {"errors", messages_of(outcome.messages)},
           {"layers", layers_of(outcome.model)},
           {"mesh", mesh_of(outcome.model)},
-          {"combinations", std::move(combinations)}};
+          {"combinations", std::move(combinations)},
+          {"sls", through ? displacement_checks_of(outcome.serviceability) : Json()},
+          {"sls_sf_min", through ? Json(least_factor_of(outcome.serviceability)) : Json()}};
 }
 
 }  // namespace ostrel::host

@@ -8,8 +8,9 @@
 
 namespace ostrel::host {
 
-/// The result tree: messages, layers, mesh, and all of each combination. Numbers that are not
-/// finite are null.
+/// The result tree: messages, layers, mesh, all of each combination, and the verification of the
+/// displacements, which is null where the run did not go through. Numbers that are not finite are
+/// null.
 nlohmann::ordered_json core_result(const Outcome& outcome);
 
 }  // namespace ostrel::host

@@ -140,6 +140,32 @@ TEST(CoreResult, HoldsThePressures) {
   EXPECT_EQ(result["load_press"][0]["loads"][0], Json::array({expected}));
 }
 
+TEST(CoreResult, HoldsTheDisplacementsAgainstTheirLimits) {
+  Outcome outcome;
+  xServiceLimitDispCombRes checked;
+  checked.setCheckID(7, 3, "SLE");
+  checked.setHeadPos(0.0);
+  checked.setHeaddisp(-8.0);
+  checked.setJtsPos(4000.0);
+  checked.setJtsdisp(-5.0);
+  checked.check(20.0, 50.0);
+  outcome.serviceability.displacements.results = {checked};
+  const Json result = result_of(outcome);
+  EXPECT_EQ(result["sls"][0], (Json{{"name", "SLE"},
+                                    {"index", 3},
+                                    {"head_pos", 0.0},
+                                    {"head_disp", -8.0},
+                                    {"jts_pos", 4000.0},
+                                    {"jts_disp", -5.0},
+                                    {"head_lim", 50.0},
+                                    {"jts_lim", 20.0}}));
+  // The smaller of 50 / 8 and 20 / 5.
+  EXPECT_EQ(result["sls_sf_min"], 4.0);
+  outcome.verdict = veldError;
+  EXPECT_EQ(result_of(outcome)["sls"], nullptr);
+  EXPECT_EQ(result_of(outcome)["sls_sf_min"], nullptr);
+}
+
 TEST(CoreResult, WritesNullForWhatIsNotFinite) {
   Outcome outcome;
   outcome.results.combResults.resize(1);
