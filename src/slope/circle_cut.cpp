@@ -38,23 +38,24 @@ void sort_by_x(std::vector<Place>& points) {
   }
 }
 
-/// Whether a side surely meets the circle nowhere, not even within the tolerance at its ends. It is
-/// settled where the distance from the circle is clear of rounding errors.
-bool surely_misses(Place p1, Place p2, Place center, double radius, double tol) {
-  const Place d{.x = p2.x - p1.x, .y = p2.y - p1.y};
-  const Place f{.x = p1.x - center.x, .y = p1.y - center.y};
-  const double a = d.x * d.x + d.y * d.y;
-  const double b = f.x * d.x + f.y * d.y;
-  const double c = f.x * f.x + f.y * f.y - radius * radius;
-  const double clear = 1e-9 * (radius * radius + a);
-  const double past = 2.0 * std::max(tol, 0.0);
-  const double before_start = c - 2.0 * past * b + past * past * a;
-  const double beyond_end = c + 2.0 * (1.0 + past) * b + (1.0 + past) * (1.0 + past) * a;
-  if (before_start < -clear && beyond_end < -clear) return true;  // inside from end to end
-  if (!(c > clear)) return false;
-  if (b > past * a) return true;  // it leads away from the circle
-  const double at_end = c + 2.0 * b + a;
-  return at_end > clear && b + a < -past * a;  // it ends before it comes near
+/// The difference of squares beyond which a vertex lies on its side of the circle for sure, and a
+/// circle that passes between two vertices does so away from both of them [mm²].
+double clear_of_circle(double radius, double tol) {
+  constexpr double longest_side = 1e5;
+  const double past = 4.0 * std::max(tol, 0.0) * longest_side;
+  return 1e-9 * radius * radius + 1e-7 * radius + past * (radius + longest_side);
+}
+
+/// Whether the side between two vertices surely meets the circle nowhere, not even within the
+/// tolerance at its ends.
+/// @param from_excess, to_excess  squares of the vertices' distances less that of the radius [mm²]
+bool surely_misses(Place from, Place to, double from_excess, double to_excess, double clear) {
+  if (from_excess < -clear && to_excess < -clear) return true;  // inside from end to end
+  if (!(from_excess > clear && to_excess > clear)) return false;
+  // Outside at both ends: it leads away from the circle, or ends before it comes near.
+  const double length2 = (to.x - from.x) * (to.x - from.x) + (to.y - from.y) * (to.y - from.y);
+  const double twice_slope = to_excess - from_excess - length2;
+  return twice_slope > 0.5 * length2 || twice_slope < -2.5 * length2;
 }
 
 /// Whether a point is surely far from a side of more than 1e-4 mm.
@@ -65,13 +66,29 @@ bool surely_off(Place point, Place a, Place b) {
 }
 
 /// The first side that holds a point, -1 for none.
-std::ptrdiff_t first_side_with(Place point, OutlineView outline, bool hurry) {
+std::ptrdiff_t first_side_with(Place point, OutlineView outline) {
   for (std::size_t k = 0; k + 1 < outline.size(); ++k) {
-    if (hurry && surely_off(point, outline[k], outline[k + 1])) continue;
     if (pointOnSegment(point, outline[k], outline[k + 1], on_side, true, nullptr))
       return static_cast<std::ptrdiff_t>(k);
   }
   return -1;
+}
+
+/// The same for a crossing whose side is known: only the sides before it are asked.
+std::ptrdiff_t first_side_with_crossing(Place point, OutlineView outline,
+                                        const CutBuffers& buffers) {
+  std::size_t i = 0;
+  while (i + 1 < buffers.crossings.size()
+         && !(exactly_equal(buffers.crossings[i].x, point.x)
+              && exactly_equal(buffers.crossings[i].y, point.y)))
+    ++i;
+  const std::size_t own_side = buffers.sides[i];
+  for (std::size_t k = 0; k < own_side; ++k) {
+    if (surely_off(point, outline[k], outline[k + 1])) continue;
+    if (pointOnSegment(point, outline[k], outline[k + 1], on_side, true, nullptr))
+      return static_cast<std::ptrdiff_t>(k);
+  }
+  return static_cast<std::ptrdiff_t>(own_side);
 }
 
 /// Walks the outline: down its left side to the first crossing, from left to right along the border,
@@ -81,13 +98,22 @@ void walk_inside(OutlineView outline, Place center, double radius, bool hurry,
   std::vector<Place>& border = buffers.border;
   Outline& part = buffers.part;
   part.clear();
-  const std::ptrdiff_t first = first_side_with(border.front(), outline, hurry);
-  const std::ptrdiff_t last = first_side_with(border.back(), outline, hurry);
+  const auto side_of = [&](Place point) {
+    return hurry ? first_side_with_crossing(point, outline, buffers)
+                 : first_side_with(point, outline);
+  };
+  const std::ptrdiff_t first = side_of(border.front());
+  const std::ptrdiff_t last = side_of(border.back());
   const double reach = radius + on_circle;
+  const double clear = clear_of_circle(radius, 0.0);
+  const auto inside = [&](std::size_t k) {
+    if (hurry && std::abs(buffers.excess[k]) > clear) return buffers.excess[k] < 0.0;
+    return distance(outline[k], center) <= reach;
+  };
   const auto append_inside = [&](std::ptrdiff_t from, std::ptrdiff_t to, std::vector<Place>& list) {
     for (std::ptrdiff_t k = from; k <= to; ++k) {
-      const Place vertex = outline[static_cast<std::size_t>(k)];
-      if (distance(vertex, center) <= reach) list.push_back(vertex);
+      const auto vertex = static_cast<std::size_t>(k);
+      if (inside(vertex)) list.push_back(outline[vertex]);
     }
   };
   append_inside(0, first, part);
@@ -98,16 +124,22 @@ void walk_inside(OutlineView outline, Place center, double radius, bool hurry,
   if (distance(part.back(), part.front()) > on_circle) part.push_back(part.front());
 }
 
-void find_crossings(OutlineView outline, Place center, double radius, double tol, bool hurry,
-                    std::vector<Place>& crossings) {
-  crossings.clear();
-  if (!hurry) {
-    circlePolyIntersections(outline, center, radius, crossings, tol);
-    return;
+/// `circlePolyIntersections` past the sides that surely have none.
+void find_crossings_in_hurry(OutlineView outline, Place center, double radius, double tol,
+                             CutBuffers& buffers) {
+  buffers.sides.clear();
+  buffers.excess.clear();
+  for (const Place& vertex : outline) {
+    const double dx = vertex.x - center.x;
+    const double dy = vertex.y - center.y;
+    buffers.excess.push_back(dx * dx + dy * dy - radius * radius);
   }
+  const double clear = clear_of_circle(radius, tol);
   for (std::size_t k = 0; k + 1 < outline.size(); ++k) {
-    if (surely_misses(outline[k], outline[k + 1], center, radius, tol)) continue;
-    segCircleIntersect(outline[k], outline[k + 1], center, radius, tol, crossings);
+    if (surely_misses(outline[k], outline[k + 1], buffers.excess[k], buffers.excess[k + 1], clear))
+      continue;
+    segCircleIntersect(outline[k], outline[k + 1], center, radius, tol, buffers.crossings);
+    buffers.sides.resize(buffers.crossings.size(), k);
   }
 }
 
@@ -182,7 +214,12 @@ bool filterIntersections(double tol, Place center, const std::vector<Place>& cro
 CutKind cut_by_circle(OutlineView outline, Place centroid, Place center, double radius, double tol,
                       bool hurry, CutBuffers& buffers) {
   std::vector<Place>& border = buffers.border;
-  find_crossings(outline, center, radius, tol, hurry, buffers.crossings);
+  buffers.crossings.clear();
+  if (hurry) {
+    find_crossings_in_hurry(outline, center, radius, tol, buffers);
+  } else {
+    circlePolyIntersections(outline, center, radius, buffers.crossings, tol);
+  }
   const bool below_centre =
       filterIntersections(crossing_tolerance, center, buffers.crossings, border);
   if (!below_centre && !border.empty()) return CutKind::above_centre;

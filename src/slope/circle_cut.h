@@ -5,6 +5,7 @@
 #include "slope/place.h"
 #include "slope/stripes.h"
 
+#include <cstddef>
 #include <span>
 #include <vector>
 
@@ -54,10 +55,12 @@ enum class CutKind {
 /// Working lists, which keep their memory from one cut to the next.
 struct CutBuffers {
   std::vector<Place> crossings;
-  std::vector<Place> border;  ///< crossings and what lies between them, from left to right
-  Outline part;               ///< what the circle leaves
-  Place chord_mid;            ///< middle of the chord in place of the arc
-  double chord_length = 0.0;  ///< [mm]
+  std::vector<std::size_t> sides;  ///< on which side each crossing lies; kept in a hurry only
+  std::vector<double> excess;  ///< of each vertex, likewise: its distance² less radius² [mm²]
+  std::vector<Place> border;   ///< crossings and what lies between them, from left to right
+  Outline part;                ///< what the circle leaves
+  Place chord_mid;             ///< middle of the chord in place of the arc
+  double chord_length = 0.0;   ///< [mm]
 };
 
 /// Cuts an outline that begins at its highest vertex and runs counter-clockwise.
@@ -68,7 +71,8 @@ struct CutBuffers {
 /// @param centroid  decides where the circle meets the outline in one point or none
 /// @param tol       as for `segCircleIntersect`
 /// @param hurry     sides and vertices that a few multiplications settle are passed over. It gives
-///   the same result, but only for outlines whose sides are all longer than 1e-4
+///   the same result, but only for outlines within 1e6 mm of the origin whose sides all measure from
+///   1 mm to 1e5 mm
 CutKind cut_by_circle(OutlineView outline, Place centroid, Place center, double radius, double tol,
                       bool hurry, CutBuffers& buffers);
 

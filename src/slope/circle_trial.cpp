@@ -14,8 +14,9 @@ namespace ostrel::slope {
 
 namespace {
 
-constexpr double shortest_side = 1e-4;  // [mm]
+constexpr double shortest_side = 1.0;   // [mm]
 constexpr double longest_side = 1e5;    // [mm]
+constexpr double farthest_place = 1e6;  // from the origin, along an axis [mm]
 constexpr double smallest_area = 0.01;  // [mm²]
 
 bool sides_are_regular(OutlineView outline) {
@@ -23,6 +24,8 @@ bool sides_are_regular(OutlineView outline) {
   for (std::size_t k = 0; k + 1 < outline.size(); ++k) {
     const double length = distance(outline[k], outline[k + 1]);
     if (!(length > shortest_side && length < longest_side)) return false;
+    if (!(std::abs(outline[k].x) < farthest_place && std::abs(outline[k].y) < farthest_place))
+      return false;
   }
   return true;
 }
@@ -259,8 +262,10 @@ void CircleTrial::add_stripe(std::size_t first, std::size_t end, bool bishop,
     sums.seismic += raw * seismic_.kh * weight_factor_[1];
     sums.moment += weight * (center_.x - slice.centroid.x);
   }
-  sums.moment -= (base.base_mid.x - center_.x) * stripe_loads(base, act);
-  moments.stab += base_resistance_of(base, sums, bishop) * radius_;
+  const double driving_loads = stripe_loads(base, act);
+  sums.moment -= (base.base_mid.x - center_.x) * driving_loads;
+  const double loads = act == actFirst ? driving_loads : stripe_loads(base, actFirst);
+  moments.stab += base_resistance_of(base, sums, loads, bishop) * radius_;
   moments.destab += sums.moment;
 }
 
@@ -274,7 +279,8 @@ double CircleTrial::stripe_loads(const Slice& base, actType act) {
   return base.whole ? note_loads(loads, act, clip) : loads.total();
 }
 
-double CircleTrial::base_resistance_of(const Slice& base, const StripeSums& sums, bool bishop) {
+double CircleTrial::base_resistance_of(const Slice& base, const StripeSums& sums, double loads,
+                                       bool bishop) const {
   const Soil& soil = soils_[base.piece->soil];
   // alpha = -atan(slant): its sine and cosine without the angle.
   const double slant = (center_.x - base.base_mid.x) / (center_.y - base.base_mid.y);
@@ -296,8 +302,7 @@ double CircleTrial::base_resistance_of(const Slice& base, const StripeSums& sums
         (water_level(water_, base.base_mid.x) - base.base_mid.y) * gamma_water_;
   }
   if (base.whole) note_base(base, resistance);
-  return base_resistance(resistance, sums, stripe_loads(base, actFirst), seismic_.kv, spacing_, 1.0,
-                         bishop);
+  return base_resistance(resistance, sums, loads, seismic_.kv, spacing_, 1.0, bishop);
 }
 
 void CircleTrial::note_base(const Slice& base, const BaseResistance& resistance) const {

@@ -95,7 +95,8 @@ private:
   CutKind classify(const Piece& piece) const;
   bool cut_piece(const Piece& piece);
   bool weigh_part(Slice& slice);
-  double base_resistance_of(const Slice& base, const StripeSums& sums, bool bishop);
+  double base_resistance_of(const Slice& base, const StripeSums& sums, double loads,
+                            bool bishop) const;
   void add_stripe(std::size_t first, std::size_t end, bool bishop, CircleMoments& moments);
   double stripe_loads(const Slice& base, actType act);
   void note_base(const Slice& base, const BaseResistance& resistance) const;
