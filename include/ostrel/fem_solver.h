@@ -26,7 +26,8 @@ struct OSTREL_API xFemSolverOptions {
   std::string label;                 ///< read by nothing in the analysis
 };
 
-/// The equations of one combination. A solver serves once.
+/// The equations of one combination. A solver may serve again: each solution begins anew, in the
+/// memory of the one before.
 ///
 /// Degree of freedom k of node n has the number 3n + k; see `xFemData` for their meaning.
 class OSTREL_API xFemSolver {
@@ -79,8 +80,8 @@ public:
   ///
   /// A secant iteration: each pass takes every soil spring with its stiffness at the displacement
   /// of the pass before and solves anew. It ends when the sum of the absolute changes of dof 1 over
-  /// the spring nodes is at most the tolerance, or after `maxIterations` passes, whose last solution
-  /// then stands without an error.
+  /// the spring nodes is at most the tolerance, or after `maxIterations` passes, of which there is
+  /// always one; its solution then stands without an error. `K` is there unchanged in the end.
   ///
   /// @oddity The sum is absolute, in mm, and grows with the number of nodes. Stored results depend
   /// on it.
@@ -162,12 +163,15 @@ public:
   /// The forces at both ends of each element: the stiffness of the element times its displacements,
   /// less the nodal loads of its pressures.
   /// @param total_elem_loads  of each element, summed over the conditions [N], [Nmm]
+  /// @retval errFemNodeNotFound  an element names a node without displacements
+  /// @retval errNodeCountModel  `data` is not the beam assembled
   OstrelErrorType getBeamStress(const xFemData& data, const std::vector<double>& d,
                                 const std::vector<arma::Col<double>>& total_elem_loads,
                                 std::vector<xBeamStress>& out);
 
   /// `K` d less the total load at each node where its size is above 0.0001: what supports, springs
-  /// and anchors exert there, reversed. Overwrites `d`; `out` is not emptied.
+  /// and anchors exert there, reversed. `d` becomes the total load less `K` d; `out` is not emptied.
+  /// @retval errNodeCountModel  `total` and `d` differ in size
   OstrelErrorType getNodalForce(std::vector<double>& total, std::vector<double>& d,
                                 std::map<int, xFemNodeData>& out);
   ///@}

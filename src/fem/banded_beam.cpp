@@ -3,10 +3,12 @@
 
 #include "fem/beam_assembly.h"
 #include "fem/beam_supports.h"
+#include "services/exact.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <numeric>
 #include <tuple>
@@ -80,6 +82,9 @@ BandedBeam::BandedBeam(const arma::Mat<double>& beam, const std::vector<info_Fem
       column_scale_(size_, 1.0),
       is_unit_row_(size_, false),
       signs_(size_),
+      growth_(std::numeric_limits<double>::infinity()),
+      diagonal_(size_),
+      rhs_(size_),
       columns_(2 * size_),
       pivots_(size_) {
   for (std::size_t j = 0; j < size_; ++j) {
@@ -115,16 +120,53 @@ bool BandedBeam::solve(const std::vector<int>& nodes, const std::vector<double>&
                        std::vector<double>& d) {
   if (d.size() != size_ || !take_soil(nodes, stiffness) || !factorise()) return false;
   for (std::size_t i = 0; i < size_; ++i) {
-    columns_[i] = d[i] * row_scale_[i];
+    rhs_[i] = d[i] * row_scale_[i];
   }
-  std::copy(signs_.begin(), signs_.end(), columns_.begin() + static_cast<std::ptrdiff_t>(size_));
-  substitute(columns_.data(), 2);
-  if (!is_well_conditioned()) return false;
+  std::copy(rhs_.begin(), rhs_.end(), columns_.begin());
+  substitute(columns_.data());
+  return is_well_conditioned(stiffness) && correct(columns_.data()) && hand_out(columns_.data(), d);
+}
+
+bool BandedBeam::improve(const std::vector<int>& nodes, const std::vector<double>& stiffness,
+                         const std::vector<double>& rhs, std::vector<double>& d) {
+  if (rhs.size() != size_ || d.size() != size_) return false;
+  if (!take_soil(nodes, stiffness) || !factorise()) return false;
   for (std::size_t i = 0; i < size_; ++i) {
-    columns_[i] *= column_scale_[i];
-    if (!std::isfinite(columns_[i])) return false;
+    rhs_[i] = rhs[i] * row_scale_[i];
+    columns_[i] = d[i] / column_scale_[i];
   }
-  std::copy_n(columns_.begin(), size_, d.begin());
+  return correct(columns_.data()) && hand_out(columns_.data(), d);
+}
+
+// Takes the scales off a solution.
+bool BandedBeam::hand_out(const double* solution, std::vector<double>& d) {
+  if (!std::all_of(solution, solution + size_, [](double x) { return std::isfinite(x); })) {
+    return false;
+  }
+  for (std::size_t i = 0; i < size_; ++i) {
+    d[i] = solution[i] * column_scale_[i];
+  }
+  return true;
+}
+
+// One step of iterative improvement. In the digits of a double what is left over of the right-hand
+// side would drown in the rounding of its terms, which are large and cancel.
+bool BandedBeam::correct(double* solution) {
+  double* change = columns_.data() + size_;
+  for (std::size_t i = 0; i < size_; ++i) {
+    long double left = rhs_[i];
+    const BandRows columns = band_rows(i, size_);
+    for (std::size_t j = columns.first; j < columns.end; ++j) {
+      const double entry = i == j ? diagonal_[i] : base_[position(i, j)];
+      if (exactly_equal(entry, 0.0)) continue;  // as where along meets across
+      left -= static_cast<long double>(entry) * solution[j];
+    }
+    change[i] = static_cast<double>(left);
+  }
+  substitute(change);
+  // A change that is not small tells of factors that are no good.
+  if (!(length_of(change, size_) <= 1e-3 * length_of(solution, size_))) return false;
+  std::transform(solution, solution + size_, change, solution, std::plus<>{});
   return true;
 }
 
@@ -139,6 +181,9 @@ bool BandedBeam::take_soil(const std::vector<int>& nodes, const std::vector<doub
     work_[position(i, i)] += soil;
     largest = std::max(largest, std::abs(soil));
   }
+  for (std::size_t i = 0; i < size_; ++i) {
+    diagonal_[i] = work_[position(i, i)];
+  }
   norm_ = base_norm_ + largest;
   return std::isfinite(norm_);
 }
@@ -150,29 +195,48 @@ bool BandedBeam::factorise() {
   return info == 0;
 }
 
-void BandedBeam::substitute(double* columns, int count) {
+void BandedBeam::substitute(double* column) {
   const int n = static_cast<int>(size_);
+  const int one = 1;
   int info = 0;
-  dgbtrs_("N", &n, &half_width, &half_width, &count, work_.data(), &column_height, pivots_.data(),
-          columns, &n, &info, 1);
+  dgbtrs_("N", &n, &half_width, &half_width, &one, work_.data(), &column_height, pivots_.data(),
+          column, &n, &info, 1);
+}
+
+// Softer springs make the equations worse by no more than the factor by which they are softer, so
+// that what was found for the springs of a pass before mostly does.
+bool BandedBeam::is_well_conditioned(const std::vector<double>& stiffness) {
+  constexpr double enough = 1e-4 / std::numeric_limits<double>::epsilon();
+  if (norm_ * growth_ < enough * softening_since_probe(stiffness)) return true;
+  probe(enough);
+  probed_stiffness_ = stiffness;
+  return norm_ * growth_ < 0.03 / std::numeric_limits<double>::epsilon();
+}
+
+// The smallest part that any spring has kept of the stiffness it had at the last probe; 0 before it.
+double BandedBeam::softening_since_probe(const std::vector<double>& stiffness) const {
+  if (probed_stiffness_.size() != stiffness.size()) return 0.0;
+  double kept = 1.0;
+  for (std::size_t k = 0; k < stiffness.size(); ++k) {
+    if (!(probed_stiffness_[k] > 0.0)) return 0.0;
+    kept = std::min(kept, stiffness[k] / probed_stiffness_[k]);
+  }
+  return kept;
 }
 
 // How much a pattern grows between the two sides of the equations bounds their condition from below.
-// Chance hides a part of it, up to three digits in long beams; where the bound leaves less room than
+// Chance hides a part of it, up to three digits in long beams; where there is not `enough` room for
 // that, what has grown is sent through again, which finds the condition within a small factor.
-bool BandedBeam::is_well_conditioned() {
-  constexpr double epsilon = std::numeric_limits<double>::epsilon();
-  double* signs = columns_.data() + size_;
-  double growth = length_of(signs, size_) / length_of(signs_.data(), size_);
-  if (norm_ * growth < 1e-4 / epsilon) return true;
-  for (int repeat = 0; repeat < 2; ++repeat) {
-    const double before = length_of(signs, size_);
-    if (!(before > 0.0 && std::isfinite(before))) return false;
-    std::transform(signs, signs + size_, signs, [before](double x) { return x / before; });
-    substitute(signs, 1);
-    growth = length_of(signs, size_);
+void BandedBeam::probe(double enough) {
+  double* column = columns_.data() + size_;
+  std::copy(signs_.begin(), signs_.end(), column);
+  double before = length_of(column, size_);
+  for (int round = 0; round < 3; ++round) {
+    std::transform(column, column + size_, column, [before](double x) { return x / before; });
+    substitute(column);
+    before = growth_ = length_of(column, size_);
+    if (norm_ * growth_ < enough || !(growth_ > 0.0 && std::isfinite(growth_))) return;
   }
-  return norm_ * growth < 0.03 / epsilon;
 }
 
 }  // namespace ostrel::fem

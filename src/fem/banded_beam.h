@@ -35,14 +35,25 @@ public:
   bool solve(const std::vector<int>& nodes, const std::vector<double>& stiffness,
              std::vector<double>& d);
 
+  /// Brings a solution `d` for the right-hand side `rhs` that the dense form has found nearer to the
+  /// exact one; as `solve` does with its own.
+  ///
+  /// @return false, and `d` unchanged, where that is not possible
+  bool improve(const std::vector<int>& nodes, const std::vector<double>& stiffness,
+               const std::vector<double>& rhs, std::vector<double>& d);
+
 private:
   class Band;
 
   void scale();
   bool take_soil(const std::vector<int>& nodes, const std::vector<double>& stiffness);
   bool factorise();
-  void substitute(double* columns, int count);
-  bool is_well_conditioned();
+  void substitute(double* column);
+  bool is_well_conditioned(const std::vector<double>& stiffness);
+  double softening_since_probe(const std::vector<double>& stiffness) const;
+  void probe(double enough);
+  bool correct(double* solution);
+  bool hand_out(const double* solution, std::vector<double>& d);
 
   std::size_t size_ = 0;
   std::vector<double> base_;       // the band without the soil, scaled
@@ -52,10 +63,16 @@ private:
   std::vector<bool> is_unit_row_;
   std::vector<double> signs_;  // a fixed pattern of 1 and -1
 
+  // Of the last probe of the condition.
+  double growth_;                         // of the pattern, where the norm of the equations is 1
+  std::vector<double> probed_stiffness_;  // of the springs
+
   // Of one pass.
-  std::vector<double> work_;     // the band with the soil, then its factors
-  double norm_ = 0.0;            // not below the largest column sum
-  std::vector<double> columns_;  // the right-hand side and the signs, then what they solve to
+  std::vector<double> work_;      // the band with the soil, then its factors
+  std::vector<double> diagonal_;  // of the band with the soil
+  std::vector<double> rhs_;       // scaled
+  double norm_ = 0.0;             // not below the largest column sum
+  std::vector<double> columns_;   // the solution and one more
   std::vector<int> pivots_;
 };
 

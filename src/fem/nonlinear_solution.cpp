@@ -181,6 +181,12 @@ public:
 
 private:
   OstrelErrorType solve_dense() {
+    const OstrelErrorType code = solve_whole_matrix();
+    if (code == ostrel::ok) band().improve(soil.nodes, soil.stiffness, rhs_, d);
+    return code;
+  }
+
+  OstrelErrorType solve_whole_matrix() {
     LentMatrix lent(solver_.K);
     const auto code = solver_.appBoundCond(anchors_, data_, soil.by_node(), solver_.K, d);
     if (code != ostrel::ok) return code;
@@ -190,8 +196,12 @@ private:
 
   // Whether the equations are singular is for the dense form to say.
   OstrelErrorType solve_band() {
+    return band().solve(soil.nodes, soil.stiffness, d) ? ostrel::ok : solve_dense();
+  }
+
+  BandedBeam& band() {
     if (!band_) band_.emplace(solver_.K, anchors_, data_);
-    return band_->solve(soil.nodes, soil.stiffness, d) ? ostrel::ok : solve_dense();
+    return *band_;
   }
 
   xFemSolver& solver_;

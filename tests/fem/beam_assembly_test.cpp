@@ -4,7 +4,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace ostrel::fem {
 namespace {
@@ -19,6 +21,17 @@ constexpr BeamElement beam{
 TEST(ElementDofs, AreSixInARowFromThreeTimesTheElement) {
   EXPECT_THAT(element_dofs(0), ElementsAre(0, 1, 2, 3, 4, 5));
   EXPECT_THAT(element_dofs(7), ElementsAre(21, 22, 23, 24, 25, 26));
+}
+
+// Of the 12 dofs of three elements the first meets those up to 5, the last those from 6 on.
+TEST(BandRows, ReachFiveDofsToEitherSide) {
+  constexpr std::size_t size = 12;
+  for (const auto& [column, first, end] :
+       {std::array<std::size_t, 3>{0, 0, 6}, {4, 0, 10}, {5, 0, 11}, {6, 1, 12}, {11, 6, 12}}) {
+    EXPECT_EQ(band_rows(column, size).first, first) << column;
+    EXPECT_EQ(band_rows(column, size).end, end) << column;
+  }
+  EXPECT_EQ(band_rows(0, 3).end, 3U);
 }
 
 TEST(ElementStiffness, HasEachEntryInItsPlace) {
