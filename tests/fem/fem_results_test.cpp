@@ -1,244 +1,432 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ostrel/fem_results.h"
 
+#include "support/hostile_stream.h"
+#include "support/random_bits.h"
+#include "support/spring_beam.h"
 #include "support/stream_round_trip.h"
 
 #include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 #include <numbers>
+#include <string>
+#include <vector>
 
 namespace {
 
 using ostrel::testing::bytes_of;
+using ostrel::testing::expect_cuts_refused;
 using ostrel::testing::frame_bytes;
+using ostrel::testing::RandomBits;
 using ostrel::testing::read_stored;
+using ostrel::testing::refused_mutations;
 using ostrel::testing::stored;
+using ostrel::testing::straight_beam;
 using ostrel::testing::through_memory;
 using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
 
-std::vector<double> positions(const xDiagram& diagram) {
-  std::vector<double> list;
-  for (const diag_Point& point : diagram.points)
-    list.push_back(point.s);
-  return list;
-}
-
-std::vector<double> values(const xDiagram& diagram) {
-  std::vector<double> list;
-  for (const diag_Point& point : diagram.points)
-    list.push_back(point.value);
-  return list;
-}
-
-// Two elements between nodes at 0, 1000 and 3000 mm; the soil springs begin at the second node.
-class BeamOfTwoElements : public ::testing::Test {
-protected:
-  BeamOfTwoElements() {
-    for (const double y : {0.0, 1000.0, 3000.0})
-      fem.nodes.emplace_back(0.0, y);
-    for (int e = 0; e < 2; ++e) {
-      xElemData& element = fem.elements.emplace_back();
-      element.setStartNode(e);
-      element.setEndNode(e + 1);
-    }
+// Nodes at 0, 1000 and 3000, the excavation at the second; every number of the results is its own.
+struct TwoElements {
+  TwoElements() {
+    fem = straight_beam(2, 1000.0, 1.0, 1.0, 1.0).data;
+    fem.nodes[2].y = 3000.0;
     fem.setJtsoil(1);
-    raw.displacements = {{1.0, 2.0, 3.0}, {4.0, 5.0, 6.0}, {7.0, 8.0, 9.0}};
-    raw.soilReactions[2].reaction = 0.5;
-    raw.soilReactions[2].limited = 0.25;
-    raw.beamStress.resize(2);
-    for (std::size_t k = 0; k < 4; ++k) {
-      xPointStress& point = raw.beamStress[k / 2].points.emplace_back();
-      point.N = 10.0 + static_cast<double>(k);
-      point.T = 20.0 + static_cast<double>(k);
-      point.M = 30.0 + static_cast<double>(k);
+    raw.displacements = {{1, 2, 3}, {4, 5, 6}, {7, 8, 9}};
+    raw.soilReactions[2].reaction = -11.0;
+    raw.soilReactions[2].limited = -10.0;
+    for (const int e : {0, 1}) {
+      xBeamStress& stress = raw.beamStress.emplace_back();
+      for (const int end : {0, 1}) {
+        xPointStress& point = stress.points.emplace_back();
+        point.N = 100.0 + 10 * e + end;
+        point.T = 200.0 + 10 * e + end;
+        point.M = 300.0 + 10 * e + end;
+      }
     }
-    raw.nodalForces[0] = {1.0, 1.0, 1.0};
-    raw.soilForces[2].springForce = 4.0;
-    raw.appliedForces[2] = {0.0, 6.0, 0.0};
-    raw.appliedForces[0] = {0.0, 5.0, 0.0};
+    raw.nodalForces[2] = xFemNodeData(21.0, 22.0, 23.0);
+    raw.soilForces[1].springForce = 31.0;
+    raw.appliedForces[0] = xFemNodeData(41.0, 42.0, 43.0);
+    raw.appliedForces[2] = xFemNodeData(44.0, 45.0, 46.0);
   }
-  OstrelErrorType get() { return results.getData(data, anchors, fem, raw); }
+
+  OstrelErrorType get(const std::vector<info_Fem_anchor>& anchors = {}) {
+    return results.getData(data, anchors, fem, raw);
+  }
 
   xSheetpilingData data;
-  std::vector<info_Fem_anchor> anchors;
   xFemData fem;
   xCombRes raw;
   xFemResults results;
 };
 
-TEST_F(BeamOfTwoElements, ShowsDisplacementsByNode) {
-  ASSERT_EQ(get(), ostrel::ok);
-  EXPECT_THAT(positions(results.dispTrans), ElementsAre(0.0, 1000.0, 3000.0));
-  EXPECT_THAT(values(results.dispAxial), ElementsAre(1.0, 4.0, 7.0));
-  EXPECT_THAT(values(results.dispTrans), ElementsAre(2.0, 5.0, 8.0));
-  EXPECT_THAT(values(results.rotation), ElementsAre(3.0, 6.0, 9.0));
-  EXPECT_THAT(results.dispTrans.start.getVec(), ElementsAre(0.0, 0.0));
-  EXPECT_THAT(results.dispTrans.end.getVec(), ElementsAre(0.0, -3000.0));
-}
-
-// A node without a spring keeps 0; positions count from the excavation level.
-TEST_F(BeamOfTwoElements, ShowsTheReactionOfTheSoilFromTheExcavationDown) {
-  ASSERT_EQ(get(), ostrel::ok);
-  EXPECT_THAT(positions(results.soilReaction), ElementsAre(0.0, 2000.0));
-  EXPECT_THAT(values(results.soilReaction), ElementsAre(0.0, 0.5));
-  EXPECT_DOUBLE_EQ(results.soilReaction.start.y, -1000.0);
-  EXPECT_DOUBLE_EQ(results.soilReaction.end.y, -3000.0);
-}
-
-TEST_F(BeamOfTwoElements, ShowsForcesTwiceAtAnInnerNode) {
-  ASSERT_EQ(get(), ostrel::ok);
-  for (const xDiagram* diagram : {&results.axial, &results.shear, &results.moment}) {
-    EXPECT_THAT(positions(*diagram), ElementsAre(0.0, 1000.0, 1000.0, 3000.0));
-    EXPECT_DOUBLE_EQ(diagram->end.y, -3000.0);
+std::vector<double> positions(const xDiagram& diagram) {
+  std::vector<double> found;
+  for (const diag_Point& point : diagram.points) {
+    found.push_back(point.s);
   }
-  EXPECT_THAT(values(results.axial), ElementsAre(10.0, 11.0, 12.0, 13.0));
-  EXPECT_THAT(values(results.shear), ElementsAre(20.0, 21.0, 22.0, 23.0));
-  EXPECT_THAT(values(results.moment), ElementsAre(30.0, 31.0, 32.0, 33.0));
+  return found;
 }
 
-TEST_F(BeamOfTwoElements, KeepsForcesByNodeAndLoadsByDepth) {
-  ASSERT_EQ(get(), ostrel::ok);
-  EXPECT_DOUBLE_EQ(results.nodalForces.at(0).y, 1.0);
-  EXPECT_DOUBLE_EQ(results.soilForces.at(2).springForce, 4.0);
-  ASSERT_EQ(results.appliedForces.size(), 2U);
-  EXPECT_DOUBLE_EQ(results.appliedForces[0].pos, 0.0);
-  EXPECT_DOUBLE_EQ(results.appliedForces[0].data.y, 5.0);
-  EXPECT_DOUBLE_EQ(results.appliedForces[1].pos, 3000.0);
+std::vector<double> values(const xDiagram& diagram) {
+  std::vector<double> found;
+  for (const diag_Point& point : diagram.points) {
+    found.push_back(point.value);
+  }
+  return found;
 }
 
-TEST_F(BeamOfTwoElements, NeedsNodesAndElements) {
-  xFemData without_elements = fem;
-  without_elements.elements.clear();
-  EXPECT_EQ(results.getData(data, anchors, without_elements, raw), errNoFemElements);
-  EXPECT_EQ(results.dispTrans.points.size(), 3U);
-  fem.nodes.clear();
-  EXPECT_EQ(get(), errNoFemNodes);
-  EXPECT_TRUE(results.dispTrans.points.empty());
+void expect_axis(const xDiagram& diagram, const xPoint2d& start, const xPoint2d& end) {
+  EXPECT_EQ(diagram.start.x, start.x);
+  EXPECT_EQ(diagram.start.y, start.y);
+  EXPECT_EQ(diagram.end.x, end.x);
+  EXPECT_EQ(diagram.end.y, end.y);
 }
 
-TEST_F(BeamOfTwoElements, RefusesElementsAndLoadsWithoutTheirNodes) {
-  raw.appliedForces[9] = {1.0, 1.0, 1.0};
-  EXPECT_EQ(get(), errFemNodeNotFound);
-  raw.appliedForces.clear();
-  fem.elements[1].setEndNode(7);
-  EXPECT_EQ(get(), errFemNodeNotFound);
+TEST(GetData, HasAPointForEachNode) {
+  TwoElements wall;
+  ASSERT_EQ(wall.get(), ostrel::ok);
+  for (const xDiagram* diagram :
+       {&wall.results.dispAxial, &wall.results.dispTrans, &wall.results.rotation}) {
+    EXPECT_THAT(positions(*diagram), ElementsAre(0, 1000, 3000));
+    expect_axis(*diagram, {0.0, 0.0}, {0.0, -3000.0});
+  }
+  EXPECT_THAT(values(wall.results.dispAxial), ElementsAre(1, 4, 7));
+  EXPECT_THAT(values(wall.results.dispTrans), ElementsAre(2, 5, 8));
+  EXPECT_THAT(values(wall.results.rotation), ElementsAre(3, 6, 9));
 }
 
-TEST_F(BeamOfTwoElements, IgnoresResultsBeyondItsPoints) {
-  raw.displacements.resize(9);
-  raw.beamStress.resize(9);
-  raw.beamStress[8].points.resize(5);
-  EXPECT_EQ(get(), ostrel::ok);
-  EXPECT_EQ(results.dispTrans.points.size(), 3U);
+TEST(GetData, HasTwoPointsForEachElement) {
+  TwoElements wall;
+  ASSERT_EQ(wall.get(), ostrel::ok);
+  for (const xDiagram* diagram : {&wall.results.axial, &wall.results.shear, &wall.results.moment}) {
+    EXPECT_THAT(positions(*diagram), ElementsAre(0, 1000, 1000, 3000));
+    expect_axis(*diagram, {0.0, 0.0}, {0.0, -3000.0});
+  }
+  EXPECT_THAT(values(wall.results.axial), ElementsAre(100, 101, 110, 111));
+  EXPECT_THAT(values(wall.results.shear), ElementsAre(200, 201, 210, 211));
+  EXPECT_THAT(values(wall.results.moment), ElementsAre(300, 301, 310, 311));
 }
 
-TEST_F(BeamOfTwoElements, BeginsAnewEachTime) {
-  ASSERT_EQ(get(), ostrel::ok);
-  ASSERT_EQ(get(), ostrel::ok);
-  EXPECT_EQ(results.dispTrans.points.size(), 3U);
-  EXPECT_EQ(results.moment.points.size(), 4U);
+// Node 1 has no reaction and keeps 0.
+TEST(GetData, CountsTheReactionOfTheSoilFromTheExcavation) {
+  TwoElements wall;
+  ASSERT_EQ(wall.get(), ostrel::ok);
+  EXPECT_THAT(positions(wall.results.soilReaction), ElementsAre(0, 2000));
+  EXPECT_THAT(values(wall.results.soilReaction), ElementsAre(0, -11));
+  expect_axis(wall.results.soilReaction, {0.0, -1000.0}, {0.0, -3000.0});
 }
 
-TEST_F(BeamOfTwoElements, TellsTheDisplacementsOfANode) {
-  ASSERT_EQ(get(), ostrel::ok);
-  double along = -1.0;
-  double across = -1.0;
-  double turn = -1.0;
-  EXPECT_TRUE(results.getDispNode(1, along, across, turn));
-  EXPECT_THAT((std::vector<double>{along, across, turn}), ElementsAre(4.0, 5.0, 6.0));
-  for (const int node : {-1, 3, -7}) {
-    along = across = turn = -1.0;
-    EXPECT_FALSE(results.getDispNode(node, along, across, turn)) << node;
-    EXPECT_THAT((std::vector<double>{along, across, turn}), ElementsAre(0.0, 0.0, 0.0)) << node;
+TEST(GetData, NegatesBothCoordinatesInTheAxisOfTheReaction) {
+  TwoElements wall;
+  wall.fem.nodes[1].x = 7.0;
+  wall.fem.nodes[2].x = -8.0;
+  ASSERT_EQ(wall.get(), ostrel::ok);
+  expect_axis(wall.results.soilReaction, {-7.0, -1000.0}, {8.0, -3000.0});
+  expect_axis(wall.results.dispAxial, {0.0, 0.0}, {0.0, -3000.0});
+}
+
+TEST(GetData, CopiesTheForcesByNode) {
+  TwoElements wall;
+  ASSERT_EQ(wall.get(), ostrel::ok);
+  ASSERT_THAT(wall.results.nodalForces, SizeIs(1));
+  EXPECT_EQ(wall.results.nodalForces[2].y, 22.0);
+  ASSERT_THAT(wall.results.soilForces, SizeIs(1));
+  EXPECT_EQ(wall.results.soilForces[1].springForce, 31.0);
+}
+
+TEST(GetData, SortsTheAppliedForcesByDepth) {
+  TwoElements wall;
+  wall.fem.nodes[0].y = 5000.0;  // a beam upside down, to have something to sort
+  ASSERT_EQ(wall.get(), ostrel::ok);
+  ASSERT_THAT(wall.results.appliedForces, SizeIs(2));
+  EXPECT_EQ(wall.results.appliedForces[0].pos, 3000.0);
+  EXPECT_EQ(wall.results.appliedForces[0].data.x, 44.0);
+  EXPECT_EQ(wall.results.appliedForces[1].pos, 5000.0);
+  EXPECT_EQ(wall.results.appliedForces[1].data.r, 43.0);
+}
+
+TEST(GetData, BeginsAnew) {
+  TwoElements wall;
+  ASSERT_EQ(wall.get({info_Fem_anchor{}}), ostrel::ok);
+  ASSERT_EQ(wall.get(), ostrel::ok);
+  EXPECT_THAT(wall.results.dispAxial.points, SizeIs(3));
+  EXPECT_THAT(wall.results.axial.points, SizeIs(4));
+  EXPECT_THAT(wall.results.appliedForces, SizeIs(2));
+  EXPECT_THAT(wall.results.anchorSoll, IsEmpty());
+}
+
+TEST(GetData, FailsWithoutNodes) {
+  TwoElements wall;
+  ASSERT_EQ(wall.get(), ostrel::ok);
+  wall.fem.nodes.clear();
+  EXPECT_EQ(wall.get(), errNoFemNodes);
+  EXPECT_THAT(wall.results.dispAxial.points, IsEmpty());
+}
+
+TEST(GetData, FailsWithoutElementsAfterTheNodes) {
+  TwoElements wall;
+  wall.fem.elements.clear();
+  EXPECT_EQ(wall.get(), errNoFemElements);
+  EXPECT_THAT(wall.results.dispAxial.points, SizeIs(3));
+  EXPECT_THAT(values(wall.results.dispAxial), ElementsAre(0, 0, 0));
+  EXPECT_THAT(wall.results.axial.points, IsEmpty());
+}
+
+TEST(GetData, RefusesNodesThatTheBeamDoesNotHave) {
+  for (const int node : {-1, 3, std::numeric_limits<int>::max()}) {
+    TwoElements wall;
+    wall.fem.elements[1].setEndNode(node);
+    EXPECT_EQ(wall.get(), errFemNodeNotFound);
+    wall = TwoElements();
+    wall.raw.appliedForces[node] = xFemNodeData(1.0, 0.0, 0.0);
+    EXPECT_EQ(wall.get(), errFemNodeNotFound);
   }
 }
 
-// An anchor 30 degrees below the horizontal, free over 2000 mm, k = 10 + 30 = 40 N/mm, half of it
-// for one anchor: -(4 * 0.5 + 5 * 0.75) * 40 * 0.5 = -115, and 1000 of prestress.
-class AnchorAtTheMiddle : public BeamOfTwoElements {
+// More displacements, cuts and reactions than points: what has no point is left out. Fewer: 0.
+TEST(GetData, TakesWhatHasAPoint) {
+  TwoElements wall;
+  wall.raw.displacements.emplace_back(1.0, 1.0, 1.0);
+  wall.raw.beamStress.push_back(wall.raw.beamStress[0]);
+  wall.raw.soilReactions[7].reaction = 1.0;
+  ASSERT_EQ(wall.get(), ostrel::ok);
+  EXPECT_THAT(values(wall.results.dispAxial), ElementsAre(1, 4, 7));
+  EXPECT_THAT(values(wall.results.axial), ElementsAre(100, 101, 110, 111));
+  wall.raw = xCombRes{};
+  ASSERT_EQ(wall.get(), ostrel::ok);
+  EXPECT_THAT(values(wall.results.dispAxial), ElementsAre(0, 0, 0));
+  EXPECT_THAT(values(wall.results.axial), ElementsAre(0, 0, 0, 0));
+}
+
+TEST(GetData, BearsAnExcavationThatIsNoNode) {
+  for (const int node : {3, 100, std::numeric_limits<int>::max()}) {
+    TwoElements wall;
+    wall.fem.setJtsoil(node);
+    ASSERT_EQ(wall.get(), ostrel::ok);
+    EXPECT_THAT(wall.results.soilReaction.points, IsEmpty());
+  }
+  for (const int node : {-1, std::numeric_limits<int>::min()}) {
+    TwoElements wall;
+    wall.fem.setJtsoil(node);
+    ASSERT_EQ(wall.get(), ostrel::ok);
+    EXPECT_THAT(wall.results.soilReaction.points, SizeIs(3));
+  }
+}
+
+// An anchor 30° below the horizontal, 10 m free: its head lies at -1000, its end 8660 mm away and
+// 5000 mm deeper. Node 1 moves by 4 down and by 5 across; with k = 100 it carries
+// -(4 * 0.5 + 5 * 0.866) 100 / 2 = -316.5, and 1000 of prestress.
+class AnchorDiag : public ::testing::Test {
 protected:
-  AnchorAtTheMiddle() {
-    xAnchor& anchor = data.anchors.emplace_back();
+  AnchorDiag() {
+    xAnchor& anchor = wall.data.anchors.emplace_back();
     anchor.setIdObj(77);
     anchor.setAngleRad(std::numbers::pi / 6.0);
-    anchor.setFreeLength(2000.0);
+    anchor.setFreeLength(10'000.0);
     anchor.setPreStress(1000.0);
-    info_Fem_anchor& link = anchors.emplace_back();
-    link.level = -1000.0;
     link.id = 0;
     link.node = 1;
-    link.kSS = 10.0;
-    link.kCC = 30.0;
+    link.level = -1000.0;
     link.sinA = 0.5;
-    link.cosA = 0.75;
+    link.cosA = std::sqrt(0.75);
+    link.kSS = 25.0;
+    link.kCC = 75.0;
     link.share = 0.5;
   }
+
+  TwoElements wall;
+  info_Fem_anchor link;
 };
 
-TEST_F(AnchorAtTheMiddle, CarriesOneForceAlongItsFreeLength) {
-  ASSERT_EQ(get(), ostrel::ok);
-  ASSERT_EQ(results.anchorSoll.size(), 1U);
-  const AnchorSoll& anchor = results.anchorSoll[0];
+TEST_F(AnchorDiag, CarriesOneForceAlongTheFreeLength) {
+  ASSERT_EQ(wall.get({link}), ostrel::ok);
+  ASSERT_THAT(wall.results.anchorSoll, SizeIs(1));
+  const AnchorSoll& anchor = wall.results.anchorSoll[0];
   EXPECT_EQ(anchor.idObj, 77);
-  EXPECT_THAT(positions(anchor.axial), ElementsAre(0.0, 2000.0));
-  EXPECT_THAT(values(anchor.axial), ElementsAre(885.0, 885.0));
-  EXPECT_TRUE(anchor.shear.points.empty());
-  EXPECT_TRUE(anchor.moment.points.empty());
-  // down by 2000 sin 30° = 1000, out by 2000 cos 30°
+  EXPECT_THAT(positions(anchor.axial), ElementsAre(0.0, 10'000.0));
+  const double force = 1000.0 - (2.0 + 5.0 * std::sqrt(0.75)) * 50.0;
+  ASSERT_THAT(values(anchor.axial), SizeIs(2));
+  EXPECT_NEAR(anchor.axial.points[0].value, force, 1e-12 * 1000.0);
+  EXPECT_EQ(anchor.axial.points[0].value, anchor.axial.points[1].value);
+  EXPECT_THAT(anchor.shear.points, IsEmpty());
+  EXPECT_THAT(anchor.moment.points, IsEmpty());
+}
+
+TEST_F(AnchorDiag, LiesOnTheAnchorsLine) {
+  ASSERT_EQ(wall.get({link}), ostrel::ok);
+  const AnchorSoll& anchor = wall.results.anchorSoll[0];
   for (const xDiagram* diagram : {&anchor.axial, &anchor.shear, &anchor.moment}) {
-    EXPECT_DOUBLE_EQ(diagram->start.y, -1000.0);
-    EXPECT_NEAR(diagram->end.x, 1000.0 * std::sqrt(3.0), 1e-9);
-    EXPECT_NEAR(diagram->end.y, -2000.0, 1e-9);
+    expect_axis(*diagram, {0.0, -1000.0}, diagram->end);
+    EXPECT_NEAR(diagram->end.x, 10'000.0 * std::sqrt(0.75), 1e-8);
+    EXPECT_NEAR(diagram->end.y, -6000.0, 1e-8);
   }
 }
 
-TEST_F(AnchorAtTheMiddle, WithoutANodeCarriesItsPrestress) {
-  anchors[0].node = -1;
-  ASSERT_EQ(get(), ostrel::ok);
-  EXPECT_THAT(values(results.anchorSoll[0].axial), ElementsAre(1000.0, 1000.0));
-  anchors[0].node = 99;
-  ASSERT_EQ(get(), ostrel::ok);
-  EXPECT_THAT(values(results.anchorSoll[0].axial), ElementsAre(1000.0, 1000.0));
+TEST_F(AnchorDiag, WithoutANodeCarriesThePrestress) {
+  for (const int node : {-1, 3, -2, std::numeric_limits<int>::max()}) {
+    link.node = node;
+    ASSERT_EQ(wall.get({link}), ostrel::ok);
+    EXPECT_THAT(values(wall.results.anchorSoll[0].axial), ElementsAre(1000.0, 1000.0)) << node;
+  }
 }
 
-TEST_F(AnchorAtTheMiddle, ThatTheInputDoesNotHoldIsEmpty) {
-  anchors[0].id = 5;
-  ASSERT_EQ(get(), ostrel::ok);
-  EXPECT_EQ(results.anchorSoll[0].idObj, -1);
-  EXPECT_TRUE(results.anchorSoll[0].axial.points.empty());
+TEST_F(AnchorDiag, StandsForEachLinkInOrder) {
+  wall.data.anchors.push_back(wall.data.anchors[0]);
+  wall.data.anchors[1].setIdObj(88);
+  info_Fem_anchor second = link;
+  second.id = 1;
+  ASSERT_EQ(wall.get({second, link}), ostrel::ok);
+  ASSERT_THAT(wall.results.anchorSoll, SizeIs(2));
+  EXPECT_EQ(wall.results.anchorSoll[0].idObj, 88);
+  EXPECT_EQ(wall.results.anchorSoll[1].idObj, 77);
 }
 
-TEST_F(AnchorAtTheMiddle, IsStoredWithAllDiagrams) {
-  ASSERT_EQ(get(), ostrel::ok);
-  EXPECT_EQ(stored(results), frame_bytes(6, bytes_of([this](outstream& out) {
-                                           for (const xDiagram* diagram :
-                                                {&results.dispAxial, &results.dispTrans,
-                                                 &results.rotation, &results.soilReaction,
-                                                 &results.axial, &results.shear, &results.moment}) {
-                                             diagram->pub_write(out);
-                                           }
-                                           out << 1 << 0;
-                                           results.nodalForces.at(0).pub_write(out);
-                                           out << 1 << 2;
-                                           results.soilForces.at(2).pub_write(out);
-                                           out << 2;
-                                           results.appliedForces[0].pub_write(out);
-                                           results.appliedForces[1].pub_write(out);
-                                           out << 1;
-                                           results.anchorSoll[0].pub_write(out);
-                                         })));
-  EXPECT_EQ(stored(through_memory(results)), stored(results));
+TEST_F(AnchorDiag, OfAnAnchorThatIsNotThereIsEmpty) {
+  for (const int id : {-1, 1, std::numeric_limits<int>::max()}) {
+    link.id = id;
+    ASSERT_EQ(wall.get({link}), ostrel::ok);
+    EXPECT_EQ(stored(wall.results.anchorSoll[0]), stored(AnchorSoll{})) << id;
+  }
 }
 
-TEST(FemResults, OfAnOlderVersionAreRefused) {
+TEST_F(AnchorDiag, BeginsAnew) {
+  ASSERT_EQ(wall.get(), ostrel::ok);
+  AnchorSoll out;
+  out.shear.points.emplace_back(1.0, 2.0);
+  wall.results.getAnchorDiag(wall.data, out, link);
+  EXPECT_THAT(out.shear.points, IsEmpty());
+  EXPECT_THAT(out.axial.points, SizeIs(2));
+}
+
+TEST(GetDispNode, ReadsTheDisplacementsOfANode) {
+  TwoElements wall;
+  ASSERT_EQ(wall.get(), ostrel::ok);
+  double x = -1.0;
+  double y = -1.0;
+  double r = -1.0;
+  EXPECT_TRUE(wall.results.getDispNode(2, x, y, r));
+  EXPECT_EQ(x, 7.0);
+  EXPECT_EQ(y, 8.0);
+  EXPECT_EQ(r, 9.0);
+}
+
+TEST(GetDispNode, IsFalseAndThreeZerosWithoutANode) {
+  TwoElements wall;
+  ASSERT_EQ(wall.get(), ostrel::ok);
+  for (const int node : {-1, 3, -2, std::numeric_limits<int>::min()}) {
+    double x = -1.0;
+    double y = -1.0;
+    double r = -1.0;
+    EXPECT_FALSE(wall.results.getDispNode(node, x, y, r));
+    EXPECT_EQ(x, 0.0);
+    EXPECT_EQ(y, 0.0);
+    EXPECT_EQ(r, 0.0);
+  }
+}
+
+// Diagrams that came from a stream need not be of one length.
+TEST(GetDispNode, TakesAMissingPointAsZero) {
   xFemResults results;
-  try {
-    read_stored(results, frame_bytes(5, ""));
-    FAIL() << "version 5 was read";
-  } catch (int version) {
-    EXPECT_EQ(version, 5);
+  results.dispAxial.points.emplace_back(0.0, 5.0);
+  double x = -1.0;
+  double y = -1.0;
+  double r = -1.0;
+  EXPECT_TRUE(results.getDispNode(0, x, y, r));
+  EXPECT_EQ(x, 5.0);
+  EXPECT_EQ(y, 0.0);
+  EXPECT_EQ(r, 0.0);
+}
+
+xDiagram random_diagram(RandomBits& random) {
+  xDiagram diagram;
+  diagram.start.set(random.number(), random.number());
+  diagram.end.set(random.number(), random.number());
+  for (std::size_t i = random.below(6); i > 0; --i) {
+    diagram.points.emplace_back(random.number(), random.number());
   }
+  return diagram;
+}
+
+xFemResults random_results(std::uint64_t seed) {
+  RandomBits random(seed);
+  xFemResults results;
+  for (xDiagram* diagram :
+       {&results.dispAxial, &results.dispTrans, &results.rotation, &results.soilReaction,
+        &results.axial, &results.shear, &results.moment}) {
+    *diagram = random_diagram(random);
+  }
+  for (std::size_t i = random.below(6); i > 0; --i) {
+    results.nodalForces[random.integer()] =
+        xFemNodeData(random.number(), random.number(), random.number());
+    results.soilForces[random.integer()].limitMoment = random.number();
+    results.appliedForces.emplace_back().pos = random.number();
+    AnchorSoll& anchor = results.anchorSoll.emplace_back();
+    anchor.idObj = random.id();
+    anchor.axial = random_diagram(random);
+  }
+  return results;
+}
+
+TEST(FemResults, OfRandomContentsComesBackBitForBit) {
+  for (std::uint64_t seed = 1; seed <= 100; ++seed) {
+    const xFemResults results = random_results(seed);
+    xFemResults copy = random_results(seed + 1000);
+    read_stored(copy, stored(results));
+    EXPECT_EQ(stored(copy), stored(results)) << seed;
+    EXPECT_EQ(copy.anchorSoll.size(), results.anchorSoll.size());
+    EXPECT_EQ(copy.moment.points.size(), results.moment.points.size());
+  }
+}
+
+TEST(FemResults, IsStoredInTheOrderOfItsMembersInVersion6) {
+  TwoElements wall;
+  wall.data.anchors.emplace_back().setIdObj(9);
+  info_Fem_anchor link;
+  link.id = 0;
+  ASSERT_EQ(wall.get({link}), ostrel::ok);
+  xFemResults& results = wall.results;
+  EXPECT_EQ(results.getIOClass(), "xFemResults");
+  const auto whole = [](int value) { return bytes_of([value](outstream& out) { out << value; }); };
+  const std::string fields =
+      stored(results.dispAxial) + stored(results.dispTrans) + stored(results.rotation)
+      + stored(results.soilReaction) + stored(results.axial) + stored(results.shear)
+      + stored(results.moment) + whole(1) + whole(2) + stored(results.nodalForces[2]) + whole(1)
+      + whole(1) + stored(results.soilForces[1]) + whole(2) + stored(results.appliedForces[0])
+      + stored(results.appliedForces[1]) + whole(1) + stored(results.anchorSoll[0]);
+  EXPECT_EQ(stored(results), frame_bytes(6, fields));
+}
+
+TEST(FemResults, RefusesAnOlderVersionByThrowingItsNumber) {
+  const std::string bytes = stored(random_results(1));
+  for (const int version : {5, 2, 0, -1, std::numeric_limits<int>::min()}) {
+    xFemResults copy;
+    try {
+      read_stored(copy, frame_bytes(version, bytes.substr(8, bytes.size() - 12)));
+      ADD_FAILURE() << "version " << version << " was read";
+    } catch (int refused) {
+      EXPECT_EQ(refused, version);
+    }
+    EXPECT_EQ(stored(copy), stored(xFemResults{}));
+  }
+}
+
+TEST(FemResults, ResetsAllOfThem) {
+  xFemResults results = random_results(3);
+  results.reset();
+  EXPECT_EQ(stored(results), stored(xFemResults{}));
+}
+
+TEST(FemResults, CutShortAnywhereThrows) {
+  expect_cuts_refused(random_results(2));
+}
+
+TEST(FemResults, EndsInAnExceptionOrAnObjectWhateverTheBytes) {
+  EXPECT_GT(refused_mutations(random_results(5), 1000), 0);
 }
 
 }  // namespace
