@@ -14,7 +14,7 @@
 
 namespace {
 
-std::size_t allocations = 0;
+[[maybe_unused]] std::size_t allocations = 0;
 
 }  // namespace
 
