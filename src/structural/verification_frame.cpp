@@ -16,11 +16,16 @@ void identify(xCheckInfo& failure, const xCheckCombID& id, double factor) {
   failure.combIndex = id.getCombIndex();
 }
 
+std::string failure_text(const char* opening, const xCheckInfo& failure) {
+  std::ostringstream text;
+  text << label(opening) << failure.combName << label(quillet::translatable(", sf=")) << failure.sf;
+  return text.str();
+}
+
 std::string failure_text(const char* opening, const xCheckInfo& failure, const char* place_name,
                          double place) {
   std::ostringstream text;
-  text << label(opening) << failure.combName << label(quillet::translatable(", sf=")) << failure.sf
-       << label(place_name) << place;
+  text << failure_text(opening, failure) << label(place_name) << place;
   return text.str();
 }
 

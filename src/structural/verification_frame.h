@@ -52,6 +52,9 @@ void scan_groups(xBaseResults& level, Groups& groups, Failures* failures) {
 /// Tells a failure by object, combination and factor.
 void identify(xCheckInfo& failure, const xCheckCombID& id, double factor);
 
+/// Opening, combination, safety factor.
+std::string failure_text(const char* opening, const xCheckInfo& failure);
+
 /// Opening, combination, safety factor, and the place under the name `place_name`.
 std::string failure_text(const char* opening, const xCheckInfo& failure, const char* place_name,
                          double place);

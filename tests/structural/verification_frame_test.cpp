@@ -39,6 +39,14 @@ TEST(ScanRecords, TakesTheFirstOfEqualFactorsAndDoesNotListOne) {
   EXPECT_TRUE(failures.empty());
 }
 
+TEST(FailureText, TellsOpeningCombinationAndFactorThenThePlace) {
+  concreteCheckInfo failure;
+  failure.combName = "SLU";
+  failure.sf = 0.5;
+  EXPECT_EQ(ostrel::structural::failure_text("x: ", failure), "x: SLU, sf=0.5");
+  EXPECT_EQ(ostrel::structural::failure_text("x: ", failure, ", z=", 3.0), "x: SLU, sf=0.5, z=3");
+}
+
 TEST(ScanRecords, OfNothingIsUnlimited) {
   xBaseResults level;
   level.setSf(0.5);
