@@ -68,6 +68,7 @@
 
 // Geotech: bearing capacities and the verifications of the soil.
 #include "ostrel/foundation_bearing.h"
+#include "ostrel/hydraulic_check.h"
 #include "ostrel/pile_bearing_check.h"
 #include "ostrel/pile_bearing_settings.h"
 #include "ostrel/serviceability.h"
