@@ -53,6 +53,9 @@
 
 // Anchors: tendons, bulbs and their links to the beam.
 #include "ostrel/anchor.h"
+#include "ostrel/anchor_results.h"
+#include "ostrel/geotechnical_anchor_check.h"
+#include "ostrel/structural_anchor_check.h"
 
 // Structural: the frame of the verifications and the reinforced concrete wall.
 #include "ostrel/check_frame.h"
