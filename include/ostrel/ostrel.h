@@ -58,6 +58,7 @@
 #include "ostrel/structural_anchor_check.h"
 
 // Structural: the frame of the verifications and the reinforced concrete wall.
+#include "ostrel/cap_beam.h"
 #include "ostrel/check_frame.h"
 #include "ostrel/check_settings.h"
 #include "ostrel/concrete_section.h"
