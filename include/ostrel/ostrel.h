@@ -75,6 +75,7 @@
 #include "ostrel/hydraulic_check.h"
 #include "ostrel/pile_bearing_check.h"
 #include "ostrel/pile_bearing_settings.h"
+#include "ostrel/rigid_body_check.h"
 #include "ostrel/serviceability.h"
 
 // Slope: slip circles and the search for the worst of them.
