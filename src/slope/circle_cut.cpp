@@ -38,14 +38,6 @@ void sort_by_x(std::vector<Place>& points) {
   }
 }
 
-/// The difference of squares beyond which a vertex lies on its side of the circle for sure, and a
-/// circle that passes between two vertices does so away from both of them [mm²].
-double clear_of_circle(double radius, double tol) {
-  constexpr double longest_side = 1e5;
-  const double past = 4.0 * std::max(tol, 0.0) * longest_side;
-  return 1e-9 * radius * radius + 1e-7 * radius + past * (radius + longest_side);
-}
-
 /// Whether the side between two vertices surely meets the circle nowhere, not even within the
 /// tolerance at its ends.
 /// @param from_excess, to_excess  squares of the vertices' distances less that of the radius [mm²]
@@ -145,6 +137,12 @@ void find_crossings_in_hurry(OutlineView outline, Place center, double radius, d
 
 }  // namespace
 
+double clear_of_circle(double radius, double tol) {
+  constexpr double longest_side = 1e5;
+  const double past = 4.0 * std::max(tol, 0.0) * longest_side;
+  return 1e-9 * radius * radius + 1e-7 * radius + past * (radius + longest_side);
+}
+
 bool pointOnSegment(Place point, Place a, Place b, double eps, bool at_ends, double* position) {
   const double length = distance(a, b);
   if (eps > length) return at_ends && eps > std::abs(point.x - a.x);
@@ -174,8 +172,8 @@ void segCircleIntersect(Place p1, Place p2, Place center, double radius, double 
   const Place f{.x = p1.x - center.x, .y = p1.y - center.y};
   const double a = d.x * d.x + d.y * d.y;
   const double b = f.x * d.x + f.y * d.y;
-  const double c = f.x * f.x + f.y * f.y;
-  const double discriminant = b * b - (c - radius * radius) * a;
+  const double excess = f.x * f.x + f.y * f.y - radius * radius;
+  const double discriminant = b * b - excess * a;
   if (!(discriminant >= 0.0)) return;
   const double s = std::sqrt(discriminant);
   const double per_a = 1.0 / a;

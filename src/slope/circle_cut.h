@@ -44,6 +44,10 @@ bool circlePolyIntersections(OutlineView outline, Place center, double radius,
 bool filterIntersections(double tol, Place center, const std::vector<Place>& crossings,
                          std::vector<Place>& filtered);
 
+/// The difference of squares beyond which a vertex lies on its side of the circle for sure, and a
+/// circle that passes between two vertices does so away from both of them [mm²].
+double clear_of_circle(double radius, double tol);
+
 /// What a circle leaves of an outline.
 enum class CutKind {
   none,          ///< nothing

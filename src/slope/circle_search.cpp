@@ -47,6 +47,93 @@ OstrelErrorType formulation_error(int formulation, double gamma_r) {
   return ostrel::ok;
 }
 
+/// What all circles of one combination share.
+struct SearchInput {
+  double spacing;
+  double gamma_water;
+  const std::vector<xLoadCond>& conds;
+  const xLoadComb& comb;
+  const xWaterTable& water;
+  slope::Stripes& stripes;
+};
+
+/// Tries the circles of one centre after the other and keeps the best of all in a result.
+class CircleSearch {
+public:
+  CircleSearch(const SearchInput& input, const xSlopeStabilitySettings& settings,
+               xSlopeStability& result, std::vector<err_circle>& ignored)
+      : input_(input),
+        settings_(settings),
+        result_(result),
+        ignored_(ignored),
+        gamma_r_(resistance_factor(input.comb)),
+        wrong_input_(formulation_error(settings.getFormulation(), gamma_r_)),
+        trial_(input.stripes, input.spacing, input.gamma_water, input.conds, input.comb,
+               input.water) {}
+
+  OstrelErrorType try_centre(const xGridPoint& point) {
+    Radii radii;
+    const auto code = radii_of(point, settings_.getStepradius(), radii);
+    if (code != ostrel::ok) return code;
+    xGridPointResults best;
+    best.center = xPoint2d(point.center[0], point.center[1]);
+    bool any_valid = false;
+    slope::IgnoredAtCentre ignored_here(ignored_, point.center[0], point.center[1]);
+    double radius = point.getMinRadius();
+    for (std::int32_t i = 0; i < radii.count; ++i, radius += radii.step) {
+      if (!trial_.cut(slope::place(point.center), radius)) {
+        ignored_here.add(radius);
+        continue;
+      }
+      any_valid = true;
+      if (wrong_input_ != ostrel::ok) return wrong_input_;
+      if (improves(radius, best) && result_.getSf() > best.sf) keep(best, point.center);
+    }
+    if (any_valid) result_.get_gridPointRes().push_back(best);
+    return ostrel::ok;
+  }
+
+private:
+  /// Whether the circle cut last is better than the best of its centre; it then takes its place.
+  bool improves(double radius, xGridPointResults& best) {
+    const slope::CircleMoments moments = trial_.moments(settings_.getFormulation() == 1);
+    const double factor = CalculateSF(moments.destab, moments.stab) / gamma_r_;
+    if (!(best.sf > factor)) return false;
+    best.sf = factor;
+    best.radius = radius;
+    best.Mstab = moments.stab / gamma_r_;
+    best.Mdestab = moments.destab;
+    return true;
+  }
+
+  /// Keeps a circle and a copy of its slices.
+  void keep(const xGridPointResults& best, const xSlopeStability::Center& center) {
+    result_.getstabChekData() = {.xc = best.center.x,
+                                 .yc = best.center.y,
+                                 .sf = best.sf,
+                                 .radius = best.radius,
+                                 .Mstab = best.Mstab,
+                                 .Mdestab = best.Mdestab};
+    slope::intersectStripes(center, best.radius, input_.stripes, slices_);
+    auto code = ostrel::ok;
+    double stab = 0.0;
+    double destab = 0.0;
+    result_.calcSafetyFactor_new(settings_.getFormulation(), center, best.radius, input_.spacing,
+                                 input_.gamma_water, input_.conds, input_.comb, input_.water,
+                                 slices_, code, stab, destab);
+    slope::copyStripes(slices_, result_.getStripesMin());
+  }
+
+  SearchInput input_;
+  const xSlopeStabilitySettings& settings_;
+  xSlopeStability& result_;
+  std::vector<err_circle>& ignored_;
+  double gamma_r_;
+  OstrelErrorType wrong_input_;  ///< raised by the first circle that could be reckoned
+  slope::CircleTrial trial_;
+  slope::Stripes slices_;
+};
+
 }  // namespace
 
 OstrelErrorType xSlopeStability::check(double spacing, double gammaW,
@@ -63,56 +150,16 @@ OstrelErrorType xSlopeStability::check(double spacing, double gammaW,
   data.sf = stabChekData{}.sf;
   data.radius = 0.0;
   StripesMin.clear();
-
-  const int formulation = settings.getFormulation();
-  const bool bishop = formulation == 1;
-  const double gamma_r = resistance_factor(comb);
-  const OstrelErrorType wrong_input = formulation_error(formulation, gamma_r);
-  slope::CircleTrial trial(stripes, spacing, gammaW, conds, comb, water);
-  Stripes slices;
-
-  // Keeps a circle and a copy of its slices.
-  const auto keep = [&](const xGridPointResults& best, const Center& center, double radius) {
-    data = {.xc = best.center.x,
-            .yc = best.center.y,
-            .sf = best.sf,
-            .radius = best.radius,
-            .Mstab = best.Mstab,
-            .Mdestab = best.Mdestab};
-    slope::intersectStripes(center, radius, stripes, slices);
-    double stab = 0.0;
-    double destab = 0.0;
-    calc_sfslope(center, radius, spacing, gammaW, 1.0, bishop, conds, comb, water, slices, stab,
-                 destab);
-    slope::copyStripes(slices, StripesMin);
-  };
-
+  CircleSearch search({.spacing = spacing,
+                       .gamma_water = gammaW,
+                       .conds = conds,
+                       .comb = comb,
+                       .water = water,
+                       .stripes = stripes},
+                      settings, *this, ignored);
   for (const xGridPoint& point : settings.grid.points) {
-    Radii radii;
-    const auto code = radii_of(point, settings.getStepradius(), radii);
+    const auto code = search.try_centre(point);
     if (code != ostrel::ok) return code;
-    xGridPointResults best;
-    best.center = xPoint2d(point.center[0], point.center[1]);
-    bool any_valid = false;
-    slope::IgnoredAtCentre ignored_here(ignored, point.center[0], point.center[1]);
-    double radius = point.getMinRadius();
-    for (std::int32_t i = 0; i < radii.count; ++i, radius += radii.step) {
-      if (!trial.cut(slope::place(point.center), radius)) {
-        ignored_here.add(radius);
-        continue;
-      }
-      any_valid = true;
-      if (wrong_input != ostrel::ok) return wrong_input;
-      const slope::CircleMoments moments = trial.moments(bishop);
-      const double factor = CalculateSF(moments.destab, moments.stab) / gamma_r;
-      if (!(best.sf > factor)) continue;
-      best.sf = factor;
-      best.radius = radius;
-      best.Mstab = moments.stab / gamma_r;
-      best.Mdestab = moments.destab;
-      if (data.sf > best.sf) keep(best, point.center, radius);
-    }
-    if (any_valid) gridPointRes.push_back(best);
   }
   return gridPointRes.empty() ? errEmptyCentersGrid : ostrel::ok;
 }

@@ -91,16 +91,37 @@ CircleTrial::CircleTrial(const Stripes& stripes, double spacing, double gamma_wa
       ground_loads_(slope::ground_loads(conds, comb)),
       wall_loads_(slope::wall_loads(conds, comb, spacing)) {
   for (const Stripe& stripe : stripes) {
-    StripeRange range{.first = pieces_.size(),
-                      .xmin = std::numeric_limits<double>::infinity(),
-                      .xmax = -std::numeric_limits<double>::infinity()};
-    for (const osg::ref_ptr<sliceSeg>& piece : stripe) {
-      add_piece(*piece, comb, gamma_water);
-      range.xmin = std::min(range.xmin, piece->xmin);
-      range.xmax = std::max(range.xmax, piece->xmax);
-    }
-    range.end = pieces_.size();
-    stripes_.push_back(range);
+    add_stripe(stripe, comb, gamma_water);
+  }
+}
+
+void CircleTrial::add_stripe(const Stripe& stripe, const xLoadComb& comb, double gamma_water) {
+  constexpr double infinity = std::numeric_limits<double>::infinity();
+  StripeRange range{
+      .first = pieces_.size(), .xmin = infinity, .xmax = -infinity, .ymax = -infinity};
+  for (const osg::ref_ptr<sliceSeg>& piece : stripe) {
+    add_piece(*piece, comb, gamma_water);
+    range.xmin = std::min(range.xmin, piece->xmin);
+    range.xmax = std::max(range.xmax, piece->xmax);
+    range.ymax = std::max(range.ymax, piece->ymax);
+  }
+  range.end = pieces_.size();
+  const auto begin = static_cast<std::ptrdiff_t>(range.first);
+  range.layered = std::is_sorted(tops_.begin() + begin, tops_.end())
+               && std::is_sorted(bottoms_.begin() + begin, bottoms_.end())
+               && std::all_of(pieces_.begin() + begin, pieces_.end(),
+                              [](const Piece& piece) { return piece.regular; });
+  stripes_.push_back(range);
+  add_columns(range);
+}
+
+void CircleTrial::add_columns(const StripeRange& range) {
+  columns_.resize(pieces_.size());
+  Column column;
+  for (std::size_t i = range.end; i-- > range.first;) {
+    column.raw_weight += pieces_[i].raw_weight;
+    column.raw_moment += pieces_[i].raw_weight * (range.xmin - pieces_[i].centroid.x);
+    columns_[i] = column;
   }
 }
 
@@ -118,11 +139,20 @@ void CircleTrial::add_piece(sliceSeg& source, const xLoadComb& comb, double gamm
   for (const Vector2& vertex : clip.polygon) {
     vertices_.push_back(place(vertex));
   }
-  piece.regular = sides_are_regular(OutlineView(vertices_).subspan(piece.first, piece.vertices));
+  const OutlineView outline = OutlineView(vertices_).subspan(piece.first, piece.vertices);
+  piece.regular = sides_are_regular(outline);
+  piece.clean = piece.regular && is_clean(outline);
   const Soil& soil = soils_[piece.soil];
   piece.gamma = clip.belowWater ? soil.wet_gamma : soil.dry_gamma;
   piece.raw_weight = piece.gamma * (spacing_ * clip.area);
+  piece.middle = 0.5 * (piece.xmin + piece.xmax);
+  for (const actType act : {actFirst, actSecond}) {
+    piece.middle_loads[act == actFirst ? 0 : 1] =
+        loads_on_stripe(ground_loads_, piece.middle, clip.width, spacing_, act).total();
+  }
   pieces_.push_back(piece);
+  tops_.push_back(piece.ymax);
+  bottoms_.push_back(piece.ymin);
 }
 
 /// The soils with equal values are factored once.
@@ -174,70 +204,124 @@ CutKind CircleTrial::classify(const Piece& piece) const {
   return radius_ >= dmax ? CutKind::whole : CutKind::part;
 }
 
+/// By the levels that the circle has over the two edges of a stripe, with room for rounding errors.
+CircleTrial::Doubtful CircleTrial::doubtful_pieces(const StripeRange& stripe) const {
+  constexpr double clear = 1e-9;
+  constexpr double level_clear = 1e-6;  // [mm]
+  Doubtful doubtful{.first = stripe.first, .end = stripe.end};
+  if (!(stripe.layered && stripe.ymax <= center_.y && radius_ > 0.0)) return doubtful;
+  const double to_left = center_.x - stripe.xmin;
+  const double to_right = stripe.xmax - center_.x;
+  const double nearest = std::max({-to_left, -to_right, 0.0});
+  const double farthest = std::max(to_left, to_right);
+  const double limit = radius_ * radius_;
+  const double deepest = limit * (1.0 + clear) - nearest * nearest;
+  const double shallowest = limit * (1.0 - clear) - farthest * farthest;
+  const double outside = center_.y - std::sqrt(std::max(deepest, 0.0)) - level_clear;
+  while (doubtful.first < doubtful.end && tops_[doubtful.first] < outside)
+    ++doubtful.first;
+  if (!(shallowest > 0.0)) return doubtful;
+  const double inside = center_.y - std::sqrt(shallowest) + level_clear;
+  doubtful.end = doubtful.first;
+  while (doubtful.end < stripe.end && bottoms_[doubtful.end] < inside)
+    ++doubtful.end;
+  return doubtful;
+}
+
 bool CircleTrial::cut(Place center, double radius) {
   center_ = center;
   radius_ = radius;
-  slices_.clear();
-  stripe_ends_.clear();
+  rim_ = rim_of(center, radius, tolerance_);
+  cuts_.clear();
   for (const StripeRange& stripe : stripes_) {
     // All corners of such a stripe are farther away than the radius.
     if (stripe.xmin > center.x + radius || stripe.xmax < center.x - radius) continue;
-    const std::size_t before = slices_.size();
-    for (std::size_t i = stripe.first; i < stripe.end; ++i) {
-      if (!cut_piece(pieces_[i])) return false;
-    }
-    if (slices_.size() > before) stripe_ends_.push_back(slices_.size());
+    if (!cut_stripe(stripe)) return false;
   }
   return true;
 }
 
-bool CircleTrial::cut_piece(const Piece& piece) {
+bool CircleTrial::cut_stripe(const StripeRange& stripe) {
+  StripeCut cut;
+  const Doubtful doubtful = doubtful_pieces(stripe);
+  for (std::size_t i = doubtful.first; i < doubtful.end; ++i) {
+    if (!cut_piece(pieces_[i], cut)) return false;
+  }
+  if (doubtful.end < stripe.end) take_columns_from(doubtful.end, stripe, cut);
+  if (cut.base) cuts_.push_back(cut);
+  return true;
+}
+
+bool CircleTrial::cut_piece(const Piece& piece, StripeCut& cut) {
   CutKind kind = classify(piece);
-  if (kind == CutKind::none) return true;
   if (kind == CutKind::part) {
     const OutlineView outline = OutlineView(vertices_).subspan(piece.first, piece.vertices);
-    kind = cut_by_circle(outline, piece.centroid, center_, radius_, tolerance_, piece.regular,
-                         buffers_);
+    if (piece.clean && cut_cleanly(outline, piece.centroid, rim_, kind, clean_cut_)) {
+      if (kind == CutKind::part)
+        take_part(piece, clean_cut_.part(), clean_cut_.chord_mid, clean_cut_.chord_length, cut);
+    } else {
+      kind = cut_by_circle(outline, piece.centroid, center_, radius_, tolerance_, piece.regular,
+                           buffers_);
+      if (kind == CutKind::part) {
+        merge_coincident(buffers_.part);
+        take_part(piece, buffers_.part, buffers_.chord_mid, buffers_.chord_length, cut);
+      }
+    }
   }
-  if (kind == CutKind::above_centre) return false;
-  if (kind == CutKind::none) return true;
-  Slice slice;
-  slice.piece = &piece;
-  slice.whole = kind == CutKind::whole;
-  if (slice.whole) {
-    const xClipData& clip = piece.source->clip;
-    slice.centroid = piece.centroid;
-    slice.base_length = clip.baseLength;
-    slice.base_mid = place(clip.baseMid);
-  } else if (!weigh_part(slice)) {
-    return true;
-  }
-  slices_.push_back(slice);
-  return true;
+  if (kind == CutKind::whole) take_whole(piece, cut);
+  return kind != CutKind::above_centre;
 }
 
-/// @return false for a part that is too small to be a piece
-bool CircleTrial::weigh_part(Slice& slice) {
-  slice.base_length = buffers_.chord_length;
-  slice.base_mid = buffers_.chord_mid;
-  merge_coincident(buffers_.part);
-  if (!weigh(buffers_.part, slice.area, slice.centroid)) {
-    const Polygon part = polygon_of(buffers_.part);
-    slice.area = polyArea(part);
-    if (!(slice.area >= smallest_area)) return false;
-    Vector2 centroid(arma::fill::zeros);
-    polyBaricenter(part, centroid);
-    slice.centroid = place(centroid);
+/// As the lowest piece it keeps the base that it already has.
+void CircleTrial::take_whole(const Piece& piece, StripeCut& cut) const {
+  if (!cut.base) {
+    const xClipData& clip = piece.source->clip;
+    cut.base = &piece;
+    cut.base_is_whole = true;
+    cut.base_length = clip.baseLength;
+    cut.base_mid = place(clip.baseMid);
   }
-  return slice.area >= smallest_area;
+  cut.raw_weight += piece.raw_weight;
+  cut.raw_moment += piece.raw_weight * (center_.x - piece.centroid.x);
+}
+
+void CircleTrial::take_columns_from(std::size_t lowest, const StripeRange& stripe,
+                                    StripeCut& cut) const {
+  if (!cut.base) take_whole(pieces_[lowest++], cut);
+  if (lowest == stripe.end) return;
+  const Column& column = columns_[lowest];
+  cut.raw_weight += column.raw_weight;
+  cut.raw_moment += column.raw_weight * (center_.x - stripe.xmin) + column.raw_moment;
+}
+
+/// A part that is too small to be a piece is nothing.
+void CircleTrial::take_part(const Piece& piece, OutlineView part, Place chord_mid,
+                            double chord_length, StripeCut& cut) const {
+  double area = 0.0;
+  Place centroid;
+  if (!weigh(part, area, centroid)) {
+    const Polygon polygon = polygon_of(part);
+    area = polyArea(polygon);
+    if (!(area >= smallest_area)) return;
+    Vector2 point(arma::fill::zeros);
+    polyBaricenter(polygon, point);
+    centroid = place(point);
+  }
+  if (!(area >= smallest_area)) return;
+  if (!cut.base) {
+    cut.base = &piece;
+    cut.base_length = chord_length;
+    cut.base_mid = chord_mid;
+  }
+  const double raw = piece.gamma * (spacing_ * area);
+  cut.raw_weight += raw;
+  cut.raw_moment += raw * (center_.x - centroid.x);
 }
 
 CircleMoments CircleTrial::moments(bool bishop) {
   CircleMoments moments;
-  std::size_t first = 0;
-  for (const std::size_t end : stripe_ends_) {
-    add_stripe(first, end, bishop, moments);
-    first = end;
+  for (const StripeCut& cut : cuts_) {
+    add_moments(cut, bishop, moments);
   }
   double stab = 0.0;
   double destab = 0.0;
@@ -247,45 +331,37 @@ CircleMoments CircleTrial::moments(bool bishop) {
   return moments;
 }
 
-void CircleTrial::add_stripe(std::size_t first, std::size_t end, bool bishop,
-                             CircleMoments& moments) {
-  const Slice& base = slices_[first];
-  const actType act = center_.x - base.base_mid.x > 0.0 ? actFirst : actSecond;
+void CircleTrial::add_moments(const StripeCut& cut, bool bishop, CircleMoments& moments) const {
+  const double arm = center_.x - cut.base_mid.x;
+  const actType act = arm > 0.0 ? actFirst : actSecond;
   const double factor = weight_factor_[act == actFirst ? 0 : 1];
-  StripeSums sums;
-  for (std::size_t i = first; i < end; ++i) {
-    const Slice& slice = slices_[i];
-    const double raw =
-        slice.whole ? slice.piece->raw_weight : slice.piece->gamma * (spacing_ * slice.area);
-    const double weight = raw * factor;
-    sums.weight += weight;
-    sums.seismic += raw * seismic_.kh * weight_factor_[1];
-    sums.moment += weight * (center_.x - slice.centroid.x);
-  }
-  const double driving_loads = stripe_loads(base, act);
-  sums.moment -= (base.base_mid.x - center_.x) * driving_loads;
-  const double loads = act == actFirst ? driving_loads : stripe_loads(base, actFirst);
-  moments.stab += base_resistance_of(base, sums, loads, bishop) * radius_;
+  const double driving_loads = stripe_loads(cut, act);
+  const double loads = act == actFirst ? driving_loads : stripe_loads(cut, actFirst);
+  const StripeSums sums{.weight = cut.raw_weight * factor,
+                        .seismic = cut.raw_weight * seismic_.kh * weight_factor_[1],
+                        .moment = cut.raw_moment * factor + arm * driving_loads};
+  moments.stab += base_resistance_of(cut, sums, loads, bishop) * radius_;
   moments.destab += sums.moment;
 }
 
 /// The loads on a stripe; a shared piece notes them.
-double CircleTrial::stripe_loads(const Slice& base, actType act) {
-  xClipData& clip = base.piece->source->clip;
-  if (!has_conditions_ || !takes_ground_loads(base.base_mid.x, clip.width)) return 0.0;
-  if (ground_loads_.empty() && !base.whole) return 0.0;
+double CircleTrial::stripe_loads(const StripeCut& cut, actType act) const {
+  xClipData& clip = cut.base->source->clip;
+  if (!has_conditions_ || !takes_ground_loads(cut.base_mid.x, clip.width)) return 0.0;
+  if (!cut.base_is_whole && exactly_equal(cut.base_mid.x, cut.base->middle))
+    return cut.base->middle_loads[act == actFirst ? 0 : 1];
   const StripeLoads loads =
-      loads_on_stripe(ground_loads_, base.base_mid.x, clip.width, spacing_, act);
-  return base.whole ? note_loads(loads, act, clip) : loads.total();
+      loads_on_stripe(ground_loads_, cut.base_mid.x, clip.width, spacing_, act);
+  return cut.base_is_whole ? note_loads(loads, act, clip) : loads.total();
 }
 
-double CircleTrial::base_resistance_of(const Slice& base, const StripeSums& sums, double loads,
+double CircleTrial::base_resistance_of(const StripeCut& cut, const StripeSums& sums, double loads,
                                        bool bishop) const {
-  const Soil& soil = soils_[base.piece->soil];
+  const Soil& soil = soils_[cut.base->soil];
   // alpha = -atan(slant): its sine and cosine without the angle.
-  const double slant = (center_.x - base.base_mid.x) / (center_.y - base.base_mid.y);
+  const double slant = (center_.x - cut.base_mid.x) / (center_.y - cut.base_mid.y);
   const double cos_alpha = 1.0 / std::sqrt(1.0 + slant * slant);
-  BaseResistance resistance{.length = base.base_length,
+  BaseResistance resistance{.length = cut.base_length,
                             .cohesion = soil.design_cohesion,
                             .tan_phi = soil.tan_phi,
                             .sin_alpha = -slant * cos_alpha,
@@ -297,20 +373,20 @@ double CircleTrial::base_resistance_of(const Slice& base, const StripeSums& sums
     resistance.cos_alpha = std::cos(alpha);
     resistance.tan_abs_alpha = std::tan(std::abs(alpha));
   }
-  if (base.piece->source->clip.belowWater) {
+  if (cut.base->source->clip.belowWater) {
     resistance.pore_pressure =
-        (water_level(water_, base.base_mid.x) - base.base_mid.y) * gamma_water_;
+        (water_level(water_, cut.base_mid.x) - cut.base_mid.y) * gamma_water_;
   }
-  if (base.whole) note_base(base, resistance);
+  if (cut.base_is_whole) note_base(cut, resistance);
   return base_resistance(resistance, sums, loads, seismic_.kv, spacing_, 1.0, bishop);
 }
 
-void CircleTrial::note_base(const Slice& base, const BaseResistance& resistance) const {
-  xClipData& clip = base.piece->source->clip;
-  const Soil& soil = soils_[base.piece->soil];
+void CircleTrial::note_base(const StripeCut& cut, const BaseResistance& resistance) const {
+  xClipData& clip = cut.base->source->clip;
+  const Soil& soil = soils_[cut.base->soil];
   clip.phi = soil.design_phi;
   clip.cohesion = soil.design_cohesion;
-  clip.alpha = -std::atan((center_.x - base.base_mid.x) / (center_.y - base.base_mid.y));
+  clip.alpha = -std::atan((center_.x - cut.base_mid.x) / (center_.y - cut.base_mid.y));
   clip.porePressure = resistance.pore_pressure;
 }
 

@@ -5,6 +5,7 @@
 #include <armadillo>
 
 #include <cmath>
+#include <span>
 #include <vector>
 
 namespace ostrel::slope {
@@ -44,7 +45,7 @@ inline Outline outline_of(const Polygon& polygon) {
   return outline;
 }
 
-inline Polygon polygon_of(const Outline& outline) {
+inline Polygon polygon_of(std::span<const Place> outline) {
   Polygon polygon;
   polygon.reserve(outline.size());
   for (const Place& each : outline) {

@@ -100,8 +100,6 @@ double xSlopeStability::calc_sfslope(const Center& center, double R, double spac
     for (const osg::ref_ptr<sliceSeg>& piece : stripe) {
       slope::add_piece(circle, circle.weight.getFactor(act), piece->clip, sums);
     }
-    // The driving moment takes the factors of the slice's own side, the normal force always the
-    // first ones.
     sums.moment -= (base.baseMid[0] - center[0])
                  * soil_LoadEffect_new(spacing, conds, comb, stripe.front(), act);
     const double loads = soil_LoadEffect_new(spacing, conds, comb, stripe.front(), actFirst);

@@ -62,9 +62,15 @@ struct StripeSums {
 /// @oddity The inertia force enters the normal force alone: it has no moment of its own, so
 /// seismic action lowers the resistance and nothing else. Stored results depend on it.
 /// @oddity The pore pressure acts on the base without the spacing, unlike weight and cohesion: it
-/// counts as if the slice were 1 mm long. Stored results depend on it.
+/// counts as if the slice were 1 mm long, at a spacing of 1 m as a thousandth of its force. Still
+/// water is in the weights already, which are effective ones below the level; what the term could
+/// add to that is as good as absent. Stored results depend on it.
 /// @oddity The divisor takes |alpha|, so that slices on both sides of the centre have the same one.
 /// Stored results depend on it.
+///
+/// @oddity The loads in the normal force take the first factors of their actions on both sides of
+/// the centre, while the weights and the driving moment take those of the slice's own side: right of
+/// the centre a load may press with 1.5 and drive with 1. Stored results depend on it.
 ///
 /// @param loads    Q, with the first factors of the actions [N]
 /// @param kv       vertical seismic coefficient [-]

@@ -67,8 +67,6 @@ OstrelErrorType buildStripes(const xWaterTable& water, const xSlopeStabilitySett
 
 void clipStripe(const xPolyClipHelper& polygons, double x0, double x1, double ymin, double ymax,
                 Stripe& stripe) {
-  // The shifted level is doubled, also a negative one: the rectangle reaches beyond the ground only
-  // where that takes it away from the ground.
   const double top = 2.0 * (ymax + 1000.0);
   const double bottom = 2.0 * (ymin - 1000.0);
   const Polygon rectangle{{x0, top}, {x0, bottom}, {x1, bottom}, {x1, top}, {x0, top}};

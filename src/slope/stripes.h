@@ -36,6 +36,12 @@ OstrelErrorType buildStripes(const xWaterTable& water, const xSlopeStabilitySett
                              const xBoundSoilLayer& boundary, Stripes& stripes);
 
 /// Appends what the polygons have between `x0` and `x1` to `stripe`, from the lowest centroid up.
+///
+/// @oddity The rectangle of a stripe reaches from 2 (ymin - 1000) to 2 (ymax + 1000): the level
+/// shifted by a metre is doubled, also a negative one. Ground whose highest level lies more than 2 m
+/// below the wall's head loses what stands above 2 (ymax + 1000), and ground whose lowest level lies
+/// more than 2 m above it what stands below 2 (ymin - 1000). Stored results depend on it.
+///
 /// @param ymin, ymax  lowest and highest level of all polygons [mm]
 void clipStripe(const xPolyClipHelper& polygons, double x0, double x1, double ymin, double ymax,
                 Stripe& stripe);
