@@ -16,7 +16,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <sstream>
+#include <tuple>
 
 using ostrel::services::label;
 using ostrel::structural::CapBeamLoad;
