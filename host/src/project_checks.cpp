@@ -6,6 +6,7 @@
 
 #include "ground_checks.h"
 #include "json_text.h"
+#include "verification_checks.h"
 
 #include <algorithm>
 #include <cmath>
@@ -132,23 +133,7 @@ void check_combination(const Project& project, const CombinationInput& combinati
     problems.remark(child_path(path, "seismic"),
                     std::string(texts(seismic ? Text::seismic_at_rest : Text::shaken_not_seismic)));
   }
-  const auto wants = [&](pCheckTypes check) {
-    return std::find(combination.checks.begin(), combination.checks.end(), check)
-        != combination.checks.end();
-  };
-  const auto refuse = [&](const char* check, Text needed) {
-    problems.add(child_path(path, "checks"), fmt::format("\"{}\"", check),
-                 std::string(texts(needed)));
-  };
-  if (wants(checkGlobalStability) && !project.slope) {
-    refuse("global_stability", Text::needs_slope);
-  }
-  if ((wants(checkPiping) || wants(checkUplift)) && !project.water) {
-    refuse(wants(checkPiping) ? "piping" : "uplift", Text::needs_water);
-  }
-  if (wants(checkVerticalLimitLoad) && !project.wall.bearing) {
-    refuse("vertical_bearing", Text::needs_bearing);
-  }
+  check_verifications(project, combination, path, problems);
 }
 
 }  // namespace

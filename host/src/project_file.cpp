@@ -125,7 +125,8 @@ Project read_fields(ObjectReader& fields) {
   }
   if (project.spring_intervals.empty()) project.spring_intervals.emplace_back();
   if (const auto part = fields.optional("supports")) read_supports(*part, project);
-  if (const auto part = fields.unless_null("slope")) project.slope = read_slope(*part);
+  const auto slope = fields.unless_null("slope");
+  project.slope = slope ? read_slope(*slope, project) : default_slope(project);
   if (const auto part = fields.optional("calculation")) {
     project.calculation = read_calculation(*part);
   }

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
-// Readers of soils, ground, water and slip circles.
+// Readers of soils, ground and water.
 #include "json_text.h"
 #include "project_parts.h"
 
-#include <cmath>
 #include <utility>
 
 namespace ostrel::host {
 
 namespace {
 
-constexpr double farthest_m = 1e4;    // of anything from the wall
-constexpr double most_centres = 1e5;  // of slip circles
+constexpr double farthest_m = 1e4;  // of anything from the wall
 
 const Range position = Range::between(-farthest_m, farthest_m);
 const Range length = {.least = 0.0, .most = farthest_m, .least_included = false};
@@ -76,59 +74,6 @@ LayerInput read_layer(const ValueReader& value, const Names& soils, bool by_leve
   return layer;
 }
 
-std::vector<SlopeCentreInput> read_centres(const ValueReader& value) {
-  std::vector<SlopeCentreInput> centres;
-  for (const ValueReader& entry : value.items()) {
-    ObjectReader fields = entry.object();
-    SlopeCentreInput centre;
-    centre.x_m = fields.number("x_m", position);
-    centre.y_m = fields.number("y_m", position);
-    centre.least_radius_m = fields.number("least_radius_m", length);
-    centre.largest_radius_m =
-        fields.number("largest_radius_m", {.least = centre.least_radius_m, .most = farthest_m});
-    centres.push_back(centre);
-  }
-  return centres;
-}
-
-// From, and not below it, to.
-std::array<double, 2> read_span(ObjectReader& fields, const std::string& name) {
-  const auto value = fields.required(name);
-  const std::vector<ValueReader> ends = value ? value->items(2) : std::vector<ValueReader>();
-  if (ends.size() != 2) return {0.0, 0.0};
-  const double from = ends[0].number(position);
-  return {from, ends[1].number({.least = from, .most = farthest_m})};
-}
-
-// A regular grid of centres; the circles of each are tangent to levels between two.
-std::vector<SlopeCentreInput> read_centre_box(const ValueReader& value) {
-  ObjectReader fields = value.object();
-  const auto [left, right] = read_span(fields, "x_m");
-  const auto [low, high] = read_span(fields, "y_m");
-  const double spacing = fields.number("spacing_m", length);
-  const auto [deepest, highest] = read_span(fields, "tangent_levels_m");
-  std::vector<SlopeCentreInput> centres;
-  if (!(spacing > 0.0)) return centres;
-  const double columns = std::floor((right - left) / spacing + 1e-9) + 1.0;
-  const double rows = std::floor((high - low) / spacing + 1e-9) + 1.0;
-  const bool above = low > highest;
-  if (!(columns * rows <= most_centres) || !above) {
-    value.refuse(value.problems().texts()(above ? Text::fewer_centres : Text::centres_above_circles,
-                                          most_centres));
-    return centres;
-  }
-  for (double row = 0.0; row < rows; ++row) {
-    for (double column = 0.0; column < columns; ++column) {
-      const double y = low + row * spacing;
-      centres.push_back({.x_m = left + column * spacing,
-                         .y_m = y,
-                         .least_radius_m = y - highest,
-                         .largest_radius_m = y - deepest});
-    }
-  }
-  return centres;
-}
-
 }  // namespace
 
 std::vector<SoilInput> read_soils(const ValueReader& value) {
@@ -164,22 +109,6 @@ WaterInput read_water(const ValueReader& value) {
   water.retained_level_m = fields.number("retained_level_m", position);
   water.excavated_level_m = fields.number("excavated_level_m", position);
   return water;
-}
-
-SlopeInput read_slope(const ValueReader& value) {
-  ObjectReader fields = value.object();
-  SlopeInput slope;
-  if (const auto method = fields.optional("method")) {
-    slope.formulation = static_cast<int>(method->choice({"fellenius", "bishop"}));
-  }
-  slope.stripe_width_m = fields.number("stripe_width_m", length);
-  slope.radius_step_m = fields.number("radius_step_m", length);
-  if (const auto box = fields.optional("centre_box")) {
-    slope.centres = read_centre_box(*box);
-  } else if (const auto centres = fields.required("centres")) {
-    slope.centres = read_centres(*centres);
-  }
-  return slope;
 }
 
 }  // namespace ostrel::host

@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,7 +25,10 @@ WaterInput read_water(const ValueReader& value);
 AnchorInput read_anchor(const ValueReader& value);
 LoadInput read_load(const ValueReader& value);
 CombinationInput read_combination(const ValueReader& value, const Names& loads);
-SlopeInput read_slope(const ValueReader& value);
+/// `false` for none; what is not given comes from the geometry of the project, which has been read.
+std::optional<SlopeInput> read_slope(const ValueReader& value, const Project& project);
+/// Slip circles chosen from the geometry.
+SlopeInput default_slope(const Project& project);
 
 /// Tells that another entry before this one has the same name.
 void refuse_repeated_name(const ValueReader& entry, const std::string& name);

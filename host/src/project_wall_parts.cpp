@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Readers of the wall, its reinforcement and its anchors.
+// Readers of the wall, its reinforcement and its anchors. A run designs the reinforcement, so that
+// it is obligatory.
 #include "project_parts.h"
 
 #include <limits>
@@ -87,7 +88,7 @@ void read_rectangle_ratios(ObjectReader& fields, ReinforcementInput& reinforceme
   reinforcement.corner_bars = fields.flag_or("corner_bars", true);
 }
 
-ReinforcementInput read_reinforcement(const ValueReader& value, bool rectangle) {
+ReinforcementInput read_reinforcement(const ValueReader& value, bool rectangle, bool has_cap_beam) {
   ObjectReader fields = value.object();
   ReinforcementInput reinforcement;
   reinforcement.cover_mm = fields.number("cover_mm", section_mm);
@@ -102,9 +103,8 @@ ReinforcementInput read_reinforcement(const ValueReader& value, bool rectangle) 
   if (const auto part = fields.required("stirrups")) reinforcement.stirrups = read_stirrups(*part);
   if (const auto part = fields.required("concrete")) reinforcement.concrete = read_concrete(*part);
   if (const auto part = fields.required("steel")) reinforcement.steel = read_steel(*part);
-  if (const auto part = fields.required("cap_beam")) {
-    reinforcement.cap_beam = read_cap_beam_reinforcement(*part);
-  }
+  const auto beam = has_cap_beam ? fields.required("cap_beam") : fields.optional("cap_beam");
+  if (beam) reinforcement.cap_beam = read_cap_beam_reinforcement(*beam);
   return reinforcement;
 }
 
@@ -181,8 +181,8 @@ WallInput read_wall(const ValueReader& value) {
     wall.head_limit_mm = limits.number("head_mm", positive);
     wall.excavation_limit_mm = limits.number("excavation_mm", positive);
   }
-  if (const auto part = fields.unless_null("reinforcement")) {
-    wall.reinforcement = read_reinforcement(*part, wall.is_diaphragm);
+  if (const auto part = fields.required("reinforcement")) {
+    wall.reinforcement = read_reinforcement(*part, wall.is_diaphragm, wall.cap_beam_height_m > 0.0);
   }
   if (const auto part = fields.unless_null("vertical_bearing")) wall.bearing = read_bearing(*part);
   return wall;

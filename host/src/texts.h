@@ -130,6 +130,10 @@ enum class Text : std::int32_t {
   support_moment_row,
   moment_sign_line,
   no_names,
+  // Slip circles and verifications
+  slope_or_false,
+  needed_by_check,  // name of a verification
+  limits_not_given,
   // Reasons of the system
   no_such_file,
   permission_denied,

@@ -28,7 +28,13 @@ inline nlohmann::json sound_project() {
     "format": 1,
     "name": "wall",
     "wall": {"type": "pile_row", "diameter_mm": 600, "spacing_m": 1.0, "piles": 4,
-             "length_m": 10, "E_GPa": 30, "unit_weight_kN_m3": 25},
+             "length_m": 10, "E_GPa": 30, "unit_weight_kN_m3": 25,
+             "reinforcement": {
+               "cover_mm": 60, "bar_diameter_mm": 20, "least_ratio_percent": 0.5,
+               "largest_ratio_percent": 4,
+               "stirrups": {"diameter_mm": 10, "least_spacing_mm": 100, "largest_spacing_mm": 300,
+                            "spacing_step_mm": 50},
+               "concrete": {"cube_strength_MPa": 30}, "steel": {"yield_strength_MPa": 450}}},
     "excavation_depth_m": 4,
     "soils": [{"name": "sand", "unit_weight_kN_m3": 18, "saturated_unit_weight_kN_m3": 20,
                "friction_angle_deg": 32, "wall_friction_angle_deg": 20, "E_MPa": 30}],
@@ -44,6 +50,26 @@ inline nlohmann::json sound_project() {
 inline nlohmann::json with(const char* pointer, const nlohmann::json& value) {
   nlohmann::json project = sound_project();
   project[nlohmann::json::json_pointer(pointer)] = value;
+  return project;
+}
+
+/// `sound_project` with three panels of a diaphragm 800 mm thick and 2.5 m wide for its piles.
+inline nlohmann::json sound_diaphragm() {
+  nlohmann::json project = sound_project();
+  nlohmann::json& wall = project["wall"];
+  for (const char* name : {"diameter_mm", "spacing_m", "piles"})
+    wall.erase(name);
+  wall["type"] = "diaphragm";
+  wall["thickness_mm"] = 800;
+  wall["panel_width_m"] = 2.5;
+  wall["panels"] = 3;
+  nlohmann::json& reinforcement = wall["reinforcement"];
+  reinforcement.erase("least_ratio_percent");
+  reinforcement.erase("largest_ratio_percent");
+  for (const char* name : {"least_excavation_ratio_percent", "least_retained_ratio_percent"})
+    reinforcement[name] = 0.2;
+  for (const char* name : {"largest_excavation_ratio_percent", "largest_retained_ratio_percent"})
+    reinforcement[name] = 2;
   return project;
 }
 

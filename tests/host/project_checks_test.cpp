@@ -62,15 +62,6 @@ TEST(ProjectChecks, WantEverythingOnTheWall) {
                "loads[0].on_wall[0].level_m", "from -10 to 0");
 }
 
-TEST(ProjectChecks, WantTheBlocksThatVerificationsRead) {
-  expect_error(with("/combinations/0/checks", {"global_stability"}), "combinations[0].checks",
-               "slope");
-  expect_error(with("/combinations/0/checks", {"piping"}), "combinations[0].checks", "water");
-  expect_error(with("/combinations/0/checks", {"uplift"}), "combinations[0].checks", "water");
-  expect_error(with("/combinations/0/checks", {"vertical_bearing"}), "combinations[0].checks",
-               "wall.vertical_bearing");
-}
-
 TEST(ProjectChecks, RemarkUponOddSoils) {
   expect_remark(with("/soils/0/friction_angle_deg", 55), "soils[0].friction_angle_deg", "55");
   expect_remark(with("/soils/0/wall_friction_angle_deg", 33), "soils[0].wall_friction_angle_deg",

@@ -48,15 +48,10 @@ TEST(ConvertedWall, HasAPileOfHalfTheDiameterAsRadius) {
   // 30000 / (2 * 1.2)
   EXPECT_EQ(wall.material.getShearModulus(), 12500.0);
   EXPECT_EQ(wall.material.getUnitWeight(), 25e-6);
-  EXPECT_FALSE(wall.checkSettings.reinforcementSettings.valid());
 }
 
 TEST(ConvertedWall, HasTheThicknessOfADiaphragmAsItsDepthInBending) {
-  Json project = sound_project();
-  project["wall"] = {
-      {"type", "diaphragm"}, {"thickness_mm", 800}, {"panel_width_m", 2.5},   {"panels", 3},
-      {"length_m", 10},      {"E_GPa", 30},         {"unit_weight_kN_m3", 25}};
-  const xSheetpilingData data = data_of(project);
+  const xSheetpilingData data = data_of(sound_diaphragm());
   const xPile_Sheetpiling& wall = wall_of(data);
   // 2500 * 800³ / 12 mm⁴
   EXPECT_DOUBLE_EQ(wall.section->getBendingJ(), 2500.0 * 800.0 * 800.0 * 800.0 / 12.0);

@@ -144,6 +144,8 @@ TEST(ProjectFile, TellsEveryMissingField) {
                                 "/combinations",
                                 "/wall/length_m",
                                 "/wall/E_GPa",
+                                "/wall/reinforcement",
+                                "/wall/reinforcement/steel",
                                 "/soils/0/E_MPa",
                                 "/soils/0/friction_angle_deg",
                                 "/ground/retained_width_m",
@@ -226,36 +228,6 @@ TEST(ProjectFile, ReadsActionsOneByOne) {
   // A load that no action names does not act.
   ASSERT_THAT(combination.loads, SizeIs(1));
   EXPECT_FALSE(combination.loads[0].active);
-}
-
-TEST(ProjectFile, ReadsABoxOfCentres) {
-  Json project = sound_project();
-  project["slope"] = {{"stripe_width_m", 1.0},
-                      {"radius_step_m", 0.5},
-                      {"centre_box",
-                       {{"x_m", {-2.0, 2.0}},
-                        {"y_m", {3.0, 5.0}},
-                        {"spacing_m", 2.0},
-                        {"tangent_levels_m", {-14.0, -10.0}}}}};
-  const SlopeInput slope = *project_of(project).slope;
-  // x -2, 0, 2 and y 3, 5; the circles of the last one reach from -10 m to -14 m.
-  ASSERT_THAT(slope.centres, SizeIs(6));
-  EXPECT_EQ(slope.centres[5].x_m, 2.0);
-  EXPECT_EQ(slope.centres[5].y_m, 5.0);
-  EXPECT_EQ(slope.centres[5].least_radius_m, 15.0);
-  EXPECT_EQ(slope.centres[5].largest_radius_m, 19.0);
-}
-
-TEST(ProjectFile, RefusesABoxOfTooManyCentres) {
-  Json project = sound_project();
-  project["slope"] = {{"stripe_width_m", 1.0},
-                      {"radius_step_m", 0.5},
-                      {"centre_box",
-                       {{"x_m", {-2000.0, 2000.0}},
-                        {"y_m", {3.0, 5000.0}},
-                        {"spacing_m", 0.001},
-                        {"tangent_levels_m", {-14.0, -10.0}}}}};
-  EXPECT_THAT(read(project).errors, ElementsAre(Field(&Problem::path, "slope.centre_box")));
 }
 
 }  // namespace

@@ -1,0 +1,67 @@
+#pragma once
+/// @file  Grids of slip circles, drawn or chosen from the geometry. Room: host
+// SPDX-License-Identifier: Apache-2.0
+
+#include "project.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace ostrel::host {
+
+/// The rectangle around all ground, as coordinates [m].
+struct GroundBox {
+  double left = 0.0;
+  double right = 0.0;
+  double bottom = 0.0;
+  double top = 0.0;
+};
+
+/// The rectangle around the ground of a project; nothing where it has no layers or no vertices.
+std::optional<GroundBox> ground_box(const GroundInput& ground);
+
+/// A regular grid of centres, from the first to the second of each pair.
+struct CentreBox {
+  std::array<double, 2> x_m{};
+  std::array<double, 2> y_m{};
+  double spacing_m = 0.0;
+};
+
+/// Which circles are tried around each centre of a box.
+struct CircleRange {
+  enum class Kind : std::int32_t {
+    tangent_levels,  ///< the lowest points lie between two elevations
+    radii,           ///< the radii lie between two lengths
+    below_foot       ///< on the wall's line the circles pass between two depths below the foot
+  };
+  Kind kind = Kind::tangent_levels;
+  std::array<double, 2> span_m{};
+};
+
+/// Centres of a box; not a number for a spacing that is not above 0.
+double number_of_centres(const CentreBox& box);
+
+/// The centres of a box, along x first from the lower left, each with its radii.
+/// @param length_m  of the wall, whose foot circles may pass below
+std::vector<SlopeCentreInput> centres_of(const CentreBox& box, const CircleRange& range,
+                                         double length_m);
+
+/// @name What is tried where the file says nothing
+///
+/// Circles through the foot of the wall and below it, to half the wall's length, around centres from
+/// four fifths of the length in front of the wall to two fifths behind it and from a fifth to seven
+/// fifths above the highest ground. Circles that leave the ground sideways or below are left out:
+/// what lies outside of it has no weight and no strength.
+///@{
+double default_stripe_width_m(const Project& project);
+double default_radius_step_m(const Project& project);
+std::vector<SlopeCentreInput> default_centres(const Project& project);
+///@}
+
+/// Whether the circles of a centre stay within the ground up to a radius.
+bool stays_within(const SlopeCentreInput& centre, double radius_m, const GroundBox& ground,
+                  double excavation_depth_m);
+
+}  // namespace ostrel::host

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "slope_grid.h"
+
+#include "host_testing.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace ostrel::host {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::Field;
+using ::testing::HasSubstr;
+using ::testing::SizeIs;
+using Json = nlohmann::json;
+
+Json box(const Json& circles) {
+  Json box = {{"x_m", {-2.0, 2.0}}, {"y_m", {3.0, 5.0}}, {"spacing_m", 2.0}};
+  box.update(circles);
+  return {{"stripe_width_m", 1.0}, {"radius_step_m", 0.5}, {"centre_box", box}};
+}
+
+SlopeInput slope_of(const Json& slope) {
+  return project_of(with("/slope", slope)).slope.value_or(SlopeInput{});
+}
+
+TEST(SlopeGrid, GoesAlongXFirstFromTheLowerLeft) {
+  const SlopeInput slope = slope_of(box({{"radii_m", {14.0, 20.0}}}));
+  std::vector<std::array<double, 2>> centres;
+  for (const SlopeCentreInput& centre : slope.centres)
+    centres.push_back({centre.x_m, centre.y_m});
+  using P = std::array<double, 2>;
+  EXPECT_THAT(centres, ElementsAre(P{-2, 3}, P{0, 3}, P{2, 3}, P{-2, 5}, P{0, 5}, P{2, 5}));
+}
+
+// Around (2, 5).
+TEST(SlopeGrid, HasCirclesBetweenTwoTangentLevels) {
+  const SlopeCentreInput last = slope_of(box({{"tangent_levels_m", {-14.0, -10.0}}})).centres.at(5);
+  EXPECT_EQ(last.least_radius_m, 15.0);    // 5 + 10
+  EXPECT_EQ(last.largest_radius_m, 19.0);  // 5 + 14
+}
+
+TEST(SlopeGrid, HasCirclesBetweenTwoRadii) {
+  const SlopeCentreInput last = slope_of(box({{"radii_m", {14.0, 20.0}}})).centres.at(5);
+  EXPECT_EQ(last.least_radius_m, 14.0);
+  EXPECT_EQ(last.largest_radius_m, 20.0);
+}
+
+// The foot stands at (0, -10): from (2, 5) to 1 m and to 3 m below it.
+TEST(SlopeGrid, HasCirclesBetweenTwoDepthsBelowTheFoot) {
+  const SlopeCentreInput last = slope_of(box({{"depths_below_foot_m", {1.0, 3.0}}})).centres.at(5);
+  EXPECT_DOUBLE_EQ(last.least_radius_m, std::sqrt(4.0 + 16.0 * 16.0));
+  EXPECT_DOUBLE_EQ(last.largest_radius_m, std::sqrt(4.0 + 18.0 * 18.0));
+}
+
+TEST(SlopeGrid, RefusesTooManyCentresAndCentresBelowTheirCircles) {
+  Json many = box({{"radii_m", {14.0, 20.0}}});
+  many["centre_box"]["spacing_m"] = 0.001;  // 4001 by 2001
+  EXPECT_THAT(read(with("/slope", many)).errors,
+              ElementsAre(Field(&Problem::path, "slope.centre_box")));
+  EXPECT_THAT(read(with("/slope", box({{"tangent_levels_m", {-14.0, 3.0}}}))).errors,
+              ElementsAre(Field(&Problem::path, "slope.centre_box")));
+}
+
+TEST(SlopeGrid, WantsOneOfTheThreeWaysToNameCircles) {
+  EXPECT_THAT(read(with("/slope", box(Json::object()))).errors,
+              ElementsAre(Field(&Problem::path, "slope.centre_box.tangent_levels_m")));
+}
+
+TEST(SlopeGrid, IsLeftOutByFalseAndChosenOtherwise) {
+  EXPECT_FALSE(project_of(with("/slope", false)).slope.has_value());
+  for (const Json& slope : {Json(true), Json(nullptr), Json::object()}) {
+    EXPECT_TRUE(project_of(with("/slope", slope)).slope.has_value()) << slope;
+  }
+  const ReadingOutcome outcome = read(with("/slope", 3));
+  ASSERT_THAT(outcome.errors, SizeIs(1));
+  EXPECT_THAT(outcome.errors[0].allowed, HasSubstr("false"));
+}
+
+// Piles of 10 m: centres from -8 m to 4 m and from 2 m to 14 m, every 1.5 m, circles from the foot
+// to 5 m below it. Nothing of the ground (40 m behind, 30 m in front, down to -30 m) is in their way.
+TEST(DefaultSlopeGrid, GoesThroughTheFootAndBelowIt) {
+  const SlopeInput slope = *project_of(sound_project()).slope;
+  EXPECT_EQ(slope.formulation, 0);
+  EXPECT_EQ(slope.stripe_width_m, 0.5);
+  EXPECT_EQ(slope.radius_step_m, 1.0);
+  ASSERT_THAT(slope.centres, SizeIs(81));
+  EXPECT_DOUBLE_EQ(slope.centres.front().x_m, -8.0);
+  EXPECT_DOUBLE_EQ(slope.centres.front().y_m, 2.0);
+  EXPECT_DOUBLE_EQ(slope.centres.back().x_m, 4.0);
+  EXPECT_DOUBLE_EQ(slope.centres.back().y_m, 14.0);
+  EXPECT_DOUBLE_EQ(slope.centres.front().least_radius_m, std::sqrt(64.0 + 144.0));
+  EXPECT_DOUBLE_EQ(slope.centres.front().largest_radius_m, std::sqrt(64.0 + 289.0));
+}
+
+// In front 12 m of ground at -4 m, up to (-12, -4). From (-8, 2) to there are sqrt(16 + 36) = 7.2 m,
+// less than the 14.4 m to the foot: no circles. From (4, 2) there are sqrt(256 + 36) = 17.09 m, more
+// than sqrt(16 + 144) = 12.65 m to the foot and less than sqrt(16 + 289) = 17.46 m to 5 m below it.
+TEST(DefaultSlopeGrid, StaysWithinTheGround) {
+  const Project project = project_of(with("/ground/excavated_width_m", 12));
+  const GroundBox ground = *ground_box(project.ground);
+  EXPECT_EQ(ground.left, -12.0);
+  EXPECT_EQ(ground.right, 40.0);
+  EXPECT_EQ(ground.bottom, -30.0);
+  EXPECT_EQ(ground.top, 0.0);
+  const std::vector<SlopeCentreInput> centres = project.slope->centres;
+  ASSERT_FALSE(centres.empty());
+  EXPECT_LT(centres.size(), 81u);
+  for (const SlopeCentreInput& centre : centres) {
+    EXPECT_TRUE(stays_within(centre, centre.largest_radius_m, ground, 4.0));
+    EXPECT_NE(std::abs(centre.x_m + 8.0) + std::abs(centre.y_m - 2.0), 0.0);
+    const bool lower_right = std::abs(centre.x_m - 4.0) + std::abs(centre.y_m - 2.0) < 1e-9;
+    if (lower_right) EXPECT_NEAR(centre.largest_radius_m, std::sqrt(292.0), 1e-9);
+  }
+}
+
+TEST(DefaultSlopeGrid, StandsAboveTheHighestGround) {
+  Json project = sound_project();
+  project["ground"] = {
+      {"layers",
+       {{{"soil", "sand"},
+         {"polygons_m",
+          {{{-30, -30}, {60, -30}, {60, 3}, {10, 3}, {0, 0}, {0, -4}, {-30, -4}}}}}}}};
+  // A fifth of 10 m above +3 m.
+  EXPECT_DOUBLE_EQ(project_of(project).slope->centres.front().y_m, 5.0);
+}
+
+}  // namespace
+}  // namespace ostrel::host
