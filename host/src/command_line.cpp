@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "command_line.h"
 
+#include "command_check.h"
 #include "command_core.h"
+#include "command_new.h"
 #include "command_run.h"
+#include "schema_validation.h"
 #include "texts.h"
 
 #include <ostrel/language.h>
@@ -49,6 +52,10 @@ public:
         ->check(CLI::IsMember({"it", "en"}))
         ->type_name("");
     add_run();
+    add_check(check_, "check", Text::check_line);
+    add_check(expand_, "expand", Text::expand_line);
+    add_new();
+    schema_ = app_.add_subcommand("schema", described(texts_, Text::schema_line));
     add_core();
   }
 
@@ -59,10 +66,15 @@ public:
     } catch (const CLI::ParseError& error) {
       return app_.exit(error, out_, err_) == 0 ? exit_fine : exit_bad_input;
     }
-    const bool runs = run_->parsed();
-    const Texts& texts = runs ? run_options_.texts : core_options_.texts;
-    ostrel::set_language(code_of(texts.language()));
-    return runs ? run_project(run_options_, out_, err_) : run_core(core_options_, out_, err_);
+    const bool is_core = core_->parsed();
+    ostrel::set_language(code_of(is_core ? core_options_.texts.language() : texts_.language()));
+    if (is_core) return run_core(core_options_, out_, err_);
+    if (run_->parsed()) return run_project(run_options_, out_, err_);
+    if (check_->parsed()) return check_project_file(check_options_, out_, err_);
+    if (expand_->parsed()) return expand_project_file(check_options_, out_, err_);
+    if (new_->parsed()) return write_template(new_options_, out_, err_);
+    out_ << project_schema();
+    return exit_fine;
   }
 
 private:
@@ -75,15 +87,42 @@ private:
     run_->add_option("-o,--output", run_options_.folder,
                      described(texts_, Text::folder_for_results))
         ->type_name("DIR");
+    add_presets(*run_, run_options_.presets_file);
+  }
+
+  void add_presets(CLI::App& command, std::string& file) {
+    command.add_option("--presets", file, described(texts_, Text::presets_line))->type_name("FILE");
+  }
+
+  void add_check(CLI::App*& command, const char* name, Text description) {
+    check_options_.texts = texts_;
+    command = app_.add_subcommand(name, described(texts_, description));
+    command
+        ->add_option("PROJECT.json", check_options_.source.project_file,
+                     described(texts_, Text::file_of_project))
+        ->required();
+    add_presets(*command, check_options_.source.presets_file);
+  }
+
+  void add_new() {
+    new_options_.texts = texts_;
+    new_ = app_.add_subcommand("new", described(texts_, Text::new_line));
+    new_->add_option("FILE", new_options_.file, described(texts_, Text::file_to_write))->required();
+    new_->add_option("--template", new_options_.name, described(texts_, Text::template_line))
+        ->check(CLI::IsMember(template_names()))
+        ->type_name("")
+        ->required();
+    new_->add_flag("--force", new_options_.force, described(texts_, Text::force_line));
   }
 
   void add_core() {
     // The texts of a case are for other programs: they do not follow the environment.
     core_options_.texts = Texts(asked_.value_or(Language::italian));
-    CLI::App* core = app_.add_subcommand("core", described(texts_, Text::core_line));
-    core->add_option("CASE.json", core_options_.case_file, described(texts_, Text::file_of_case))
+    core_ = app_.add_subcommand("core", described(texts_, Text::core_line));
+    core_->add_option("CASE.json", core_options_.case_file, described(texts_, Text::file_of_case))
         ->required();
-    core->add_option("-o,--output", core_options_.result_file,
+    core_
+        ->add_option("-o,--output", core_options_.result_file,
                      described(texts_, Text::file_for_results))
         ->type_name("FILE");
   }
@@ -96,6 +135,13 @@ private:
   std::string language_;
   CLI::App* run_ = nullptr;
   RunOptions run_options_;
+  CLI::App* check_ = nullptr;
+  CLI::App* expand_ = nullptr;
+  CheckOptions check_options_;  // of either
+  CLI::App* new_ = nullptr;
+  NewOptions new_options_;
+  CLI::App* schema_ = nullptr;
+  CLI::App* core_ = nullptr;
   CoreOptions core_options_;
 };
 

@@ -4,10 +4,8 @@
 #include "analysis.h"
 #include "atomic_file.h"
 #include "command_line.h"
-#include "json_text.h"
-#include "problems.h"
 #include "project_conversion.h"
-#include "project_file.h"
+#include "project_loading.h"
 #include "result_files.h"
 #include "run_report.h"
 #include "system_reason.h"
@@ -22,14 +20,6 @@ namespace ostrel::host {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::optional<Project> load(const RunOptions& options, std::ostream& err) {
-  Problems problems(options.texts);
-  const std::optional<std::string> text = read_file(options.project_file, problems);
-  std::optional<Project> project = text ? read_project(*text, problems) : std::nullopt;
-  err << problems.report(options.project_file, text ? *text : "");
-  return project;
-}
 
 // Makes the folder and tries it, before the analysis.
 std::error_code prepare(const std::string& folder) {
@@ -54,7 +44,8 @@ bool write_files(const RunOptions& options, const std::vector<ResultFile>& files
 }  // namespace
 
 int run_project(const RunOptions& options, std::ostream& out, std::ostream& err) {
-  const std::optional<Project> project = load(options, err);
+  const std::optional<Project> project =
+      load_project({options.project_file, options.presets_file}, options.texts, err).project;
   if (!project) return exit_bad_input;
   const bool to_files = !options.folder.empty();
   if (const std::error_code error = to_files ? prepare(options.folder) : std::error_code()) {
@@ -64,6 +55,8 @@ int run_project(const RunOptions& options, std::ostream& out, std::ostream& err)
   }
   const Job job = to_job(*project);
   const Outcome outcome = analyse(job);
+  for (const std::string& note : project->notes)
+    out << note << "\n";
   out << run_report(*project, job, outcome, options.texts);
   for (const xVeldError& message : outcome.messages)
     err << message.MakeErrStr() << "\n";

@@ -11,7 +11,8 @@ namespace ostrel::host {
 
 struct RunOptions {
   std::string project_file;
-  std::string folder;  ///< for the files; empty for none
+  std::string presets_file;  ///< standards; empty for those of the program
+  std::string folder;        ///< for the files; empty for none
   Texts texts{Language::english};
 };
 

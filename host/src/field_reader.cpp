@@ -57,6 +57,18 @@ const std::map<std::string, double>& words_for_numbers() {
   return words;
 }
 
+// "soils[3].name" as "soils[].name".
+std::string with_any_entry(const std::string& path) {
+  std::string general;
+  bool in_index = false;
+  for (const char c : path) {
+    if (c == ']') in_index = false;
+    if (!in_index) general += c;
+    if (c == '[') in_index = true;
+  }
+  return general;
+}
+
 }  // namespace
 
 bool Range::holds(double x) const {
@@ -208,6 +220,7 @@ bool ObjectReader::is_comment(const std::string& name, const Json& value) const 
 
 std::optional<ValueReader> ObjectReader::optional(const std::string& name) {
   asked_.insert(name);
+  if (rules_->asked != nullptr) rules_->asked->insert(with_any_entry(child_path(path_, name)));
   if (!is_object_) return std::nullopt;
   const auto found = object_->find(name);
   if (found == object_->end()) return std::nullopt;

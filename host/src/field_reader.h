@@ -51,6 +51,8 @@ struct ReadingRules {
   bool tolerate_unknown = false;
   /// Every object may hold a text, or a list of texts, named "comment", for human readers.
   bool comments = false;
+  /// Gathers the paths of all fields that are looked for, with "[]" for any entry of a list.
+  std::set<std::string>* asked = nullptr;
 };
 
 class ObjectReader;

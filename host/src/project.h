@@ -154,6 +154,7 @@ struct AnchorInput {
   double tendon_area_mm2 = 0.0;
   double E_GPa = 0.0;
   double prestress_kN = 0.0;
+  bool permanent = true;
   double bond_diameter_mm = 0.0;
   double bond_enlargement = 1.0;
   double yield_strength_MPa = 0.0;
@@ -185,6 +186,12 @@ struct WallLoadInput {
 
 struct LoadInput {
   std::string name;
+  /// @name Read by the combinations of a standard
+  ///@{
+  bool permanent = false;
+  double psi_1 = 1.0;
+  double psi_2 = 1.0;
+  ///@}
   std::vector<GroundLoadInput> on_ground;
   std::vector<WallLoadInput> on_wall;
 };
@@ -207,6 +214,7 @@ struct CombinationInput {
   std::vector<ActionInput> loads;  ///< one for each load of the project
   double kh = 0.0;
   double kv = 0.0;
+  bool of_site = false;  ///< kh and kv come from the site of the project
   double slope_factor = 1.0;
   double topographic_factor = 1.0;
   std::vector<pCheckTypes> checks;
@@ -241,6 +249,29 @@ struct SlopeInput {
   std::vector<SlopeCentreInput> centres;
 };
 
+/// What the seismic coefficients of a standard are worked out from.
+struct SeismicSiteInput {
+  enum class Rule : std::int32_t { ntc2008, en1998 };
+  Rule rule = Rule::ntc2008;
+  double ag_g = 0.0;
+  /// @name NTC 2008
+  ///@{
+  double f0 = 0.0;
+  char ground_class = 'A';
+  int topographic_category = 1;
+  double alpha = 1.0;
+  double beta = 1.0;
+  double admissible_displacement_mm = 0.0;
+  ///@}
+  /// @name EN 1998-5
+  ///@{
+  double importance_factor = 1.0;
+  double soil_factor = 1.0;
+  double r = 1.0;
+  double vertical_to_horizontal = 0.9;
+  ///@}
+};
+
 struct CalculationInput {
   formulType earth_pressure = formulaAtRest;
   formulType seismic_earth_pressure = formulaMononobeOkabe;
@@ -261,6 +292,9 @@ struct Project {
   std::optional<WaterInput> water;
   std::vector<AnchorInput> anchors;
   std::vector<LoadInput> loads;
+  std::optional<SeismicSiteInput> seismic;
+  std::string standard;            ///< of which combinations were added; empty for none
+  std::vector<std::string> notes;  ///< what a user of that standard shall know
   std::vector<CombinationInput> combinations;
   std::vector<SpringIntervalInput> spring_intervals;
   std::vector<SupportInput> fixed_supports;

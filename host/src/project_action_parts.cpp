@@ -2,6 +2,7 @@
 // Readers of loads and combinations.
 #include "json_text.h"
 #include "project_parts.h"
+#include "seismic_coefficients.h"
 
 #include <algorithm>
 
@@ -133,7 +134,21 @@ void read_load_actions(const ValueReader& value, const Names& loads,
   }
 }
 
-void read_seismic(const ValueReader& value, CombinationInput& combination) {
+// Numbers, or true for those of the site.
+void read_seismic(const ValueReader& value, const std::optional<SeismicSiteInput>& site,
+                  CombinationInput& combination) {
+  if (value.json().is_boolean()) {
+    combination.of_site = site && value.json().get<bool>();
+    if (!combination.of_site) {
+      value.refuse(std::string(value.problems().texts()(Text::needs_seismic_site)));
+      return;
+    }
+    const SeismicCoefficients found = seismic_coefficients(*site);
+    combination.kh = found.kh;
+    combination.kv = found.kv;
+    combination.topographic_factor = found.topographic_factor;
+    return;
+  }
   ObjectReader fields = value.object();
   combination.kh = fields.number("kh", Range::from_below(0.0, 1.0));
   combination.kv = fields.number("kv", Range::inside(-1.0, 1.0));
@@ -170,6 +185,11 @@ LoadInput read_load(const ValueReader& value) {
   ObjectReader fields = value.object();
   LoadInput load;
   if (const auto name = fields.required("name")) load.name = name->text_not_empty();
+  if (const auto nature = fields.optional("nature")) {
+    load.permanent = nature->choice({"permanent", "variable"}) == 0;
+  }
+  load.psi_1 = fields.number_or("psi_1", 1.0, Range::between(0.0, 1.0));
+  load.psi_2 = fields.number_or("psi_2", 1.0, Range::between(0.0, 1.0));
   for (const ValueReader& entry : fields.items_or_none("on_ground")) {
     load.on_ground.push_back(read_ground_load(entry));
   }
@@ -179,7 +199,8 @@ LoadInput read_load(const ValueReader& value) {
   return load;
 }
 
-CombinationInput read_combination(const ValueReader& value, const Names& loads) {
+CombinationInput read_combination(const ValueReader& value, const Names& loads,
+                                  const std::optional<SeismicSiteInput>& site) {
   ObjectReader fields = value.object();
   CombinationInput combination;
   combination.loads.resize(number_of(loads));
@@ -193,7 +214,7 @@ CombinationInput read_combination(const ValueReader& value, const Names& loads) 
     read_resistance_factors(*part, combination);
   }
   if (const auto part = fields.optional("actions")) read_actions(*part, loads, combination);
-  if (const auto part = fields.unless_null("seismic")) read_seismic(*part, combination);
+  if (const auto part = fields.unless_null("seismic")) read_seismic(*part, site, combination);
   if (const auto part = fields.optional("checks")) read_checks(*part, combination);
   return combination;
 }

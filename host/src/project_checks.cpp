@@ -6,6 +6,7 @@
 
 #include "ground_checks.h"
 #include "json_text.h"
+#include "questionable_circles.h"
 #include "verification_checks.h"
 
 #include <algorithm>
@@ -124,6 +125,21 @@ void check_spring_intervals(const Project& project, Problems& problems) {
   }
 }
 
+// A wall that moves has to be allowed to, and never by more than 0.005 of its height.
+void check_seismic_site(const Project& project, Problems& problems) {
+  if (!project.seismic) return;
+  const SeismicSiteInput& site = *project.seismic;
+  const double most = 0.005 * project.wall.length_m * 1e3;
+  if (site.admissible_displacement_mm > most) {
+    problems.add("seismic.admissible_displacement_mm", shown(site.admissible_displacement_mm),
+                 problems.texts()(Text::share_of_the_wall, most));
+  }
+  if (site.beta < 1.0 && site.admissible_displacement_mm <= 0.0) {
+    problems.add("seismic.beta", shown(site.beta),
+                 std::string(problems.texts()(Text::needs_displacement)));
+  }
+}
+
 void check_combination(const Project& project, const CombinationInput& combination,
                        const std::string& path, Problems& problems) {
   const Texts& texts = problems.texts();
@@ -144,11 +160,15 @@ void check_project(const Project& project, Problems& problems) {
   check_levels(project, problems);
   check_water(project, problems);
   check_spring_intervals(project, problems);
+  check_seismic_site(project, problems);
   for (std::size_t i = 0; i < project.combinations.size(); ++i) {
     check_combination(project, project.combinations[i], child_path("combinations", i), problems);
   }
   // The ground is looked at along the wall, which needs sound numbers throughout.
-  if (problems.empty()) check_ground(project, problems);
+  if (problems.empty()) {
+    check_ground(project, problems);
+    remark_upon_circles(project, problems);
+  }
 }
 
 }  // namespace ostrel::host

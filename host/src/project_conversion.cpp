@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "project_conversion.h"
 
+#include "seismic_coefficients.h"
 #include "units.h"
 
 #include <cmath>
@@ -175,6 +176,9 @@ void convert_loads(const Project& project, xSheetpilingData& data) {
   int index = 0;
   for (const CombinationInput& combination : project.combinations) {
     data.loadCombs.push_back(to_combination(combination, project.loads, ++index));
+    if (combination.of_site && project.seismic) {
+      data.loadCombs.back().seismic = seismic_action(*project.seismic);
+    }
   }
 }
 

@@ -2,8 +2,11 @@
 #include "project_file.h"
 
 #include "json_text.h"
+#include "presets.h"
 #include "project_checks.h"
 #include "project_parts.h"
+#include "schema_validation.h"
+#include "seismic_coefficients.h"
 
 #include <fmt/ranges.h>
 
@@ -98,7 +101,7 @@ void read_combinations(ObjectReader& fields, const Names& loads, Project& projec
   if (!part) return;
   const std::vector<ValueReader> entries = part->items();
   for (const ValueReader& entry : entries) {
-    project.combinations.push_back(read_combination(entry, loads));
+    project.combinations.push_back(read_combination(entry, loads, project.seismic));
   }
   names_of(project.combinations, entries);
   if (part->json().is_array() && entries.empty()) {
@@ -119,6 +122,8 @@ Project read_fields(ObjectReader& fields) {
   for (const ValueReader& entry : fields.items_or_none("anchors")) {
     project.anchors.push_back(read_anchor(entry));
   }
+  fields.optional("standard");  // written out before
+  if (const auto part = fields.unless_null("seismic")) project.seismic = read_seismic_site(*part);
   read_combinations(fields, loads, project);
   for (const ValueReader& entry : fields.items_or_none("spring_intervals")) {
     project.spring_intervals.push_back(read_spring_interval(entry));
@@ -131,6 +136,19 @@ Project read_fields(ObjectReader& fields) {
     project.calculation = read_calculation(*part);
   }
   return project;
+}
+
+std::vector<std::string> notes_of(const Expansion& expansion, const Project& project,
+                                  const Texts& texts) {
+  std::vector<std::string> notes;
+  if (project.seismic) notes.push_back(seismic_line(*project.seismic, texts));
+  if (expansion.standard.empty()) return notes;
+  notes.push_back(texts(Text::standard_expanded, expansion.standard, expansion.added.size()));
+  if (!expansion.unconfirmed.empty()) {
+    notes.push_back(texts(Text::standard_unconfirmed,
+                          fmt::format("{}", fmt::join(expansion.unconfirmed, "; "))));
+  }
+  return notes;
 }
 
 }  // namespace
@@ -163,17 +181,23 @@ std::size_t position_of(const ValueReader& value, const Names& names) {
   return 0;
 }
 
-std::optional<Project> read_project(std::string_view text, Problems& problems) {
-  const auto json = parse_json(text, problems);
+std::optional<Project> read_project(std::string_view text, Problems& problems,
+                                    const ProjectReading& reading) {
+  auto json = parse_json(text, problems);
   if (!json) return std::nullopt;
-  const ReadingRules rules{.comments = true};
+  const Expansion expansion = expand_presets(
+      *json, reading.presets != nullptr ? *reading.presets : built_in_presets(), problems);
+  const ReadingRules rules{.comments = true, .asked = reading.asked};
   Project project;
   {
     ObjectReader fields = ValueReader(*json, "", problems, rules).object();
     project = read_fields(fields);
   }
+  check_schema(*json, problems);
   check_project(project, problems);
   if (!problems.empty()) return std::nullopt;
+  project.standard = expansion.standard;
+  project.notes = notes_of(expansion, project, problems.texts());
   return project;
 }
 

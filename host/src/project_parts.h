@@ -24,7 +24,10 @@ GroundInput read_ground(const ValueReader& value, const Names& soils);
 WaterInput read_water(const ValueReader& value);
 AnchorInput read_anchor(const ValueReader& value);
 LoadInput read_load(const ValueReader& value);
-CombinationInput read_combination(const ValueReader& value, const Names& loads);
+/// `site` stands where a combination takes its coefficients from.
+CombinationInput read_combination(const ValueReader& value, const Names& loads,
+                                  const std::optional<SeismicSiteInput>& site);
+SeismicSiteInput read_seismic_site(const ValueReader& value);
 /// `false` for none; what is not given comes from the geometry of the project, which has been read.
 std::optional<SlopeInput> read_slope(const ValueReader& value, const Project& project);
 /// Slip circles chosen from the geometry.

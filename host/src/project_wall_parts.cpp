@@ -199,6 +199,7 @@ AnchorInput read_anchor(const ValueReader& value) {
   anchor.count = fields.integer("number", 1, most_pieces);
   anchor.tendon_area_mm2 = fields.number("tendon_area_mm2", positive);
   anchor.E_GPa = fields.number("E_GPa", positive);
+  anchor.permanent = fields.flag_or("permanent", true);
   anchor.prestress_kN = fields.number_or("prestress_kN", 0.0, not_negative);
   read_anchor_checks(fields, anchor);
   return anchor;

@@ -134,6 +134,33 @@ enum class Text : std::int32_t {
   slope_or_false,
   needed_by_check,  // name of a verification
   limits_not_given,
+  as_in_the_schema,
+  stripes_too_wide,  // width, length of the wall
+  circles_above_foot,
+  circles_leave_ground,
+  bishop_in_clay,  // name of a soil
+  // Standards and seismic coefficients
+  seismic_line_ntc2008,
+  seismic_line_en1998,
+  needs_seismic_site,
+  needs_displacement,
+  share_of_the_wall,     // displacement
+  standard_expanded,     // name, number of combinations
+  standard_unconfirmed,  // clauses
+  a_file_of_presets,
+  // Commands about project files
+  check_line,
+  expand_line,
+  new_line,
+  schema_line,
+  file_to_write,
+  template_line,
+  force_line,
+  presets_line,
+  file_exists,       // file
+  file_written,      // file
+  nothing_wrong,     // file
+  problems_counted,  // file, errors, warnings
   // Reasons of the system
   no_such_file,
   permission_denied,

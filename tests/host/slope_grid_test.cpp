@@ -112,7 +112,9 @@ TEST(DefaultSlopeGrid, StaysWithinTheGround) {
     EXPECT_TRUE(stays_within(centre, centre.largest_radius_m, ground, 4.0));
     EXPECT_NE(std::abs(centre.x_m + 8.0) + std::abs(centre.y_m - 2.0), 0.0);
     const bool lower_right = std::abs(centre.x_m - 4.0) + std::abs(centre.y_m - 2.0) < 1e-9;
-    if (lower_right) EXPECT_NEAR(centre.largest_radius_m, std::sqrt(292.0), 1e-9);
+    if (lower_right) {
+      EXPECT_NEAR(centre.largest_radius_m, std::sqrt(292.0), 1e-9);
+    }
   }
 }
 

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "questionable_circles.h"
+
+#include "slope_grid.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <string>
+
+namespace ostrel::host {
+
+namespace {
+
+bool searches_circles(const Project& project) {
+  return std::any_of(project.combinations.begin(), project.combinations.end(),
+                     [](const CombinationInput& combination) {
+                       const auto& checks = combination.checks;
+                       return std::find(checks.begin(), checks.end(), checkGlobalStability)
+                           != checks.end();
+                     });
+}
+
+// The largest radius that is tried: the range is cut into whole steps, and its end is left out.
+double last_radius(const SlopeCentreInput& centre, double step) {
+  const double range = centre.largest_radius_m - centre.least_radius_m;
+  const double steps = std::trunc(range / step) + 1.0;
+  return centre.largest_radius_m - range / steps;
+}
+
+}  // namespace
+
+void remark_upon_circles(const Project& project, Problems& problems) {
+  if (!project.slope || !searches_circles(project)) return;
+  const Texts& texts = problems.texts();
+  const SlopeInput& slope = *project.slope;
+  const double length = project.wall.length_m;
+  if (slope.stripe_width_m > length) {
+    problems.remark("slope.stripe_width_m",
+                    texts(Text::stripes_too_wide, slope.stripe_width_m, length));
+  }
+  const auto below_foot = [&](const SlopeCentreInput& centre) {
+    const double to_foot = std::hypot(centre.x_m, centre.y_m + length);
+    return last_radius(centre, slope.radius_step_m) >= to_foot;
+  };
+  if (std::none_of(slope.centres.begin(), slope.centres.end(), below_foot)) {
+    problems.remark("slope", std::string(texts(Text::circles_above_foot)));
+  }
+  const std::optional<GroundBox> ground = ground_box(project.ground);
+  const auto leaves = [&](const SlopeCentreInput& centre) {
+    return !stays_within(centre, last_radius(centre, slope.radius_step_m), *ground,
+                         project.excavation_depth_m);
+  };
+  if (ground && std::any_of(slope.centres.begin(), slope.centres.end(), leaves)) {
+    problems.remark("slope", std::string(texts(Text::circles_leave_ground)));
+  }
+  for (const LayerInput& layer : project.ground.layers) {
+    const SoilInput& soil = project.soils[layer.soil];
+    if (slope.formulation == 1 && !(soil.friction_angle_deg > 0.0)) {
+      problems.remark("slope.method", texts(Text::bishop_in_clay, soil.name));
+    }
+  }
+}
+
+}  // namespace ostrel::host
