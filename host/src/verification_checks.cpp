@@ -22,8 +22,8 @@ public:
 
   void run() {
     if (wants(checkGlobalStability)) check_global_stability();
-    if (wants(checkPiping) && !project_.water) refuse("piping", Text::needs_water);
-    if (wants(checkUplift) && !project_.water) refuse("uplift", Text::needs_water);
+    if (wants(checkPiping)) check_seepage("piping");
+    if (wants(checkUplift)) check_seepage("uplift");
     if (wants(checkVerticalLimitLoad) && !project_.wall.bearing) {
       refuse("vertical_bearing", Text::needs_bearing);
     }
@@ -65,6 +65,16 @@ private:
   void check_global_stability() {
     if (!project_.slope) refuse("global_stability", Text::needs_slope);
     want_factor(factorGlobalStability, "global_stability", "global_stability");
+  }
+
+  // Without a permeability the head at the foot has no value.
+  void check_seepage(const char* check) {
+    if (!project_.water) refuse(check, Text::needs_water);
+    for (const LayerInput& layer : project_.ground.layers) {
+      if (layer.soil >= project_.soils.size()) continue;
+      if (project_.soils[layer.soil].permeability_m_s > 0.0) continue;
+      miss(child_path(child_path("soils", layer.soil), "permeability_m_s"), check);
+    }
   }
 
   void check_anchor(const AnchorInput& anchor, const std::string& path) {

@@ -50,10 +50,20 @@ Json anchored(const char* check, const char* without_field) {
 }
 
 TEST(VerificationChecks, WantTheBlocksThatVerificationsRead) {
-  expect_missed(checking("piping"), "combinations[0].checks", "water");
-  expect_missed(checking("uplift"), "combinations[0].checks", "water");
   expect_missed(checking("vertical_bearing"), "combinations[0].checks", "wall.vertical_bearing");
   expect_missed(checking("cap_beam_strength"), "wall.cap_beam", "cap_beam_strength");
+}
+
+TEST(VerificationChecks, WantWaterAndPermeabilitiesForSeepage) {
+  for (const char* check : {"piping", "uplift"}) {
+    Json project = checking(check);
+    project["soils"][0]["permeability_m_s"] = 1e-5;
+    expect_missed(project, "combinations[0].checks", "water");
+    project["water"] = {{"retained_level_m", 0}, {"excavated_level_m", -4}};
+    EXPECT_THAT(read(project).errors, IsEmpty());
+    project["soils"][0].erase("permeability_m_s");
+    expect_missed(project, "soils[0].permeability_m_s", check);
+  }
 }
 
 TEST(VerificationChecks, WantCirclesAndAFactorForGlobalStability) {
