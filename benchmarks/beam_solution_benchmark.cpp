@@ -10,6 +10,7 @@
 // that depends on the machine; `with_a_new_solver` shows it. `over_bare` at 2000 elements is that of
 // memory alone.
 #include "fem/beam_assembly.h"
+#include "in_turns.h"
 #include "ostrel/fem_solver.h"
 #include "support/spring_beam.h"
 
@@ -17,7 +18,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <ctime>
 #include <map>
 #include <tuple>
 #include <vector>
@@ -28,6 +28,7 @@ extern "C" void dgbsv_(const int* n, const int* kl, const int* ku, const int* nr
 
 namespace {
 
+using ostrel::benchmarks::seconds_of;
 using ostrel::testing::reference_piles;
 using ostrel::testing::SpringBeam;
 
@@ -78,14 +79,6 @@ private:
   std::vector<double> x_;
   std::vector<int> pivots_;
 };
-
-// Time of the processor, so that other programs on the machine do not count.
-template <class Action>
-double seconds_of(const Action& action) {
-  const std::clock_t start = std::clock();
-  action();
-  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-}
 
 // Runs the job and the bare loop in turns. `prepare` makes the solver ready, within the time.
 template <class Prepare>

@@ -8,6 +8,8 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdint>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -45,6 +47,27 @@ void whole_run(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(whole_run)->Arg(80)->Arg(400)->Arg(2000)->Unit(benchmark::kMillisecond);
+
+/// A wall of the size of the examples, 60 elements over 15 m, under `range` combinations.
+void run_of_combinations(benchmark::State& state) {
+  WallBuilder builder;
+  builder.pile(800.0, 15'000.0).excavation(6'500.0).step(250.0).anchor(anchor_at(1'500.0));
+  builder.layer(sand()).water(-1'000.0);
+  for (std::int64_t i = 0; i < state.range(0); ++i)
+    builder.combination(unfactored(std::to_string(i)));
+  const xSheetpilingData data = builder.build();
+  for ([[maybe_unused]] const auto _ : state) {
+    xSolver solver;
+    solver.data = data;
+    xSheetpilingRes results;
+    xUltimateLimitStates uls;
+    xServiceabilityLimitStates sls;
+    std::vector<xVeldError> errors;
+    benchmark::DoNotOptimize(solver.solve(results, uls, sls, errors));
+  }
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+BENCHMARK(run_of_combinations)->Arg(1)->Arg(6)->Arg(24)->Arg(96)->Unit(benchmark::kMillisecond);
 
 void one_combination(benchmark::State& state) {
   xSolver solver;

@@ -3,6 +3,7 @@
 // The search of slip circles. Reference: 60 m x 25 m of ground, 6 wavy layers of 40 vertices a side,
 // water on both sides, 120 stripes, 20 x 20 centres x 20 radii. Items are circles; the counter says
 // how many stripes a circle cuts on average.
+#include "in_turns.h"
 #include "ostrel/slope_stability.h"
 #include "slope/circle_trial.h"
 #include "slope/stripes.h"
@@ -12,6 +13,10 @@
 
 #include <cstdint>
 #include <stdexcept>
+#include <vector>
+
+#define GEOS_USE_ONLY_R_API
+#include <geos_c.h>
 
 namespace {
 
@@ -129,15 +134,68 @@ void BM_OneCircleWithPieces(benchmark::State& state) {
 }
 BENCHMARK(BM_OneCircleWithPieces);
 
-/// Cutting the ground; items are stripes.
-void BM_Stripes(benchmark::State& state) {
-  WavyGround ground;
-  ask_for_stripes(ground, state.range(0));
-  for (auto _ : state) {
-    benchmark::DoNotOptimize(cut(ground));
+/// The general overlay of GEOS: every layer with the rectangle of every stripe, and nothing else.
+class Overlay {
+public:
+  Overlay(const WavyGround& ground, std::int64_t stripes) {
+    for (const xBoundSoilLayer& layer : ground.layers)
+      soils_.push_back(geometry(layer.polygons[0]));
+    const double width = 60'000.0 / static_cast<double>(stripes);
+    for (std::int64_t k = 0; k < stripes; ++k) {
+      const double left = -30'000.0 + width * static_cast<double>(k);
+      const double right = left + width;
+      rectangles_.push_back(
+          geometry({{left, 1e5}, {left, -1e5}, {right, -1e5}, {right, 1e5}, {left, 1e5}}));
+    }
   }
+  Overlay(const Overlay&) = delete;
+  Overlay& operator=(const Overlay&) = delete;
+  ~Overlay() {
+    for (const auto& list : {soils_, rectangles_}) {
+      for (GEOSGeometry* each : list)
+        GEOSGeom_destroy_r(geos_, each);
+    }
+    GEOS_finish_r(geos_);
+  }
+
+  void run() const {
+    for (const GEOSGeometry* rectangle : rectangles_) {
+      for (const GEOSGeometry* soil : soils_)
+        GEOSGeom_destroy_r(geos_, GEOSIntersection_r(geos_, soil, rectangle));
+    }
+  }
+
+private:
+  GEOSGeometry* geometry(const ostrel::slope::Polygon& polygon) const {
+    const auto size = static_cast<unsigned int>(polygon.size());
+    GEOSCoordSequence* sequence = GEOSCoordSeq_create_r(geos_, size, 2);
+    for (unsigned int i = 0; i < size; ++i)
+      GEOSCoordSeq_setXY_r(geos_, sequence, i, polygon[i][0], polygon[i][1]);
+    return GEOSGeom_createPolygon_r(geos_, GEOSGeom_createLinearRing_r(geos_, sequence), nullptr,
+                                    0);
+  }
+
+  GEOSContextHandle_t geos_ = GEOS_init_r();
+  std::vector<GEOSGeometry*> soils_;
+  std::vector<GEOSGeometry*> rectangles_;
+};
+
+/// Cutting the ground, with owners, areas, centroids and the split at the water, beside the overlay
+/// alone; items are stripes.
+void BM_Stripes(benchmark::State& state) {
+  WavyGround ground(static_cast<int>(state.range(1)));
+  ask_for_stripes(ground, state.range(0));
+  const Overlay overlay(ground, state.range(0));
+  ostrel::benchmarks::run_beside(
+      state, [&ground] { benchmark::DoNotOptimize(cut(ground)); }, [&overlay] { overlay.run(); });
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
-BENCHMARK(BM_Stripes)->Arg(60)->Arg(120)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_Stripes)
+    ->Args({60, 6})
+    ->Args({120, 6})
+    ->Args({240, 6})
+    ->Args({120, 12})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -43,7 +43,6 @@ bool meet_openly(Place corner, Place before, Place after) {
 
 /// Where the circle passes between the vertices around an outline.
 struct Passages {
-  std::array<double, most_clean_vertices> excess;  ///< as in `CutBuffers`
   std::array<std::size_t, 2> sides{};
   std::size_t count = 0;
 };
@@ -64,8 +63,8 @@ bool stays_outside(Place from, Place to, double from_excess, double to_excess, d
 
 /// @return false with a vertex too near to the circle, a side that may touch it between two vertices
 /// outside, or more than two passages
-bool find_passages(OutlineView outline, const Rim& rim, Passages& passages) {
-  auto& excess = passages.excess;
+bool find_passages(OutlineView outline, const Rim& rim, CleanCut& cut, Passages& passages) {
+  auto& excess = cut.excess;
   for (std::size_t k = 0; k < outline.size(); ++k) {
     excess[k] = excess_of(outline[k], rim);
     if (!(std::abs(excess[k]) > rim.clear)) return false;
@@ -96,13 +95,13 @@ Place crossing(Place p1, Place p2, Place center, double excess) {
 }
 
 /// Walks the outline as `cut_by_circle` does. @return false if the border has to be sorted
-bool walk(OutlineView outline, const Passages& passages, std::size_t left_side,
-          std::size_t right_side, Place left, Place right, CleanCut& cut) {
+bool walk(OutlineView outline, std::size_t left_side, std::size_t right_side, Place left,
+          Place right, CleanCut& cut) {
   std::size_t size = 0;
   const auto append = [&cut, &size](Place place) { cut.vertices[size++] = place; };
   const auto append_inside = [&](std::size_t from, std::size_t end) {
     for (std::size_t k = from; k < end; ++k) {
-      if (passages.excess[k] < 0.0) append(outline[k]);
+      if (cut.excess[k] < 0.0) append(outline[k]);
     }
   };
   append_inside(0, left_side + 1);
@@ -115,7 +114,7 @@ bool walk(OutlineView outline, const Passages& passages, std::size_t left_side,
   }
   const bool goes_on = right_side > left_side;
   if (goes_on) append_inside(right_side + 1, outline.size());
-  if (!(goes_on && passages.excess[0] < 0.0)) append(cut.vertices[0]);
+  if (!(goes_on && cut.excess[0] < 0.0)) append(cut.vertices[0]);
   cut.size = size;
   return true;
 }
@@ -146,14 +145,14 @@ Rim rim_of(Place center, double radius, double tol) {
 bool cut_cleanly(OutlineView outline, Place centroid, const Rim& rim, CutKind& kind,
                  CleanCut& cut) {
   Passages passages;
-  if (!find_passages(outline, rim, passages)) return false;
+  if (!find_passages(outline, rim, cut, passages)) return false;
   if (passages.count == 0) {
     kind = rim.radius >= distance(rim.center, centroid) ? CutKind::whole : CutKind::none;
     return true;
   }
   auto [left_side, right_side] = passages.sides;
   const auto crossing_of = [&](std::size_t side) {
-    return crossing(outline[side], outline[side + 1], rim.center, passages.excess[side]);
+    return crossing(outline[side], outline[side + 1], rim.center, cut.excess[side]);
   };
   Place left = crossing_of(left_side);
   Place right = crossing_of(right_side);
@@ -166,7 +165,7 @@ bool cut_cleanly(OutlineView outline, Place centroid, const Rim& rim, CutKind& k
     return true;
   }
   if (!(right.x - left.x >= crossing_tolerance)) return false;
-  if (!walk(outline, passages, left_side, right_side, left, right, cut)) return false;
+  if (!walk(outline, left_side, right_side, left, right, cut)) return false;
   kind = CutKind::part;
   cut.chord_length = distance(left, right);
   cut.chord_mid = {.x = 0.5 * (left.x + right.x), .y = 0.5 * (left.y + right.y)};

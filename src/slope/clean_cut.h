@@ -26,7 +26,8 @@ struct CleanCut {
   std::array<Place, most_clean_vertices + 3> vertices;
   std::size_t size = 0;
   Place chord_mid;
-  double chord_length = 0.0;  ///< [mm]
+  double chord_length = 0.0;                         ///< [mm]
+  std::array<double, most_clean_vertices> excess{};  ///< of each vertex, as in `CutBuffers` [mm²]
 };
 
 /// A circle, and the difference of squares beyond which a vertex is more than a millimetre off it.
