@@ -7,6 +7,7 @@
 // Nothing is random and nothing hidden: what a test does not say is one of the round numbers below.
 
 #include "ostrel/sheetpiling_data.h"
+#include "support/concrete_walls.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -104,10 +105,40 @@ inline std::vector<PolygonPoint> rectangle(double left, double right, double bot
   return {{right, top}, {left, top}, {left, bottom}, {right, bottom}, {right, top}};
 }
 
+/// Adds what the cap beam may have to reinforcement settings: cover 50 mm, bars of 16 mm added one
+/// by one, 0.3 to 4 percent of the section, stirrups of 10 mm from 300 mm down to 100 mm by 50 mm.
+template <class Settings>
+osg::ref_ptr<Settings> with_cap_beam(osg::ref_ptr<Settings> settings) {
+  settings->trave.Cover = 50.0;
+  settings->trave.BarDiam = 16;
+  settings->trave.Step = 1;
+  settings->trave.minRatio = 0.3;
+  settings->trave.maxRatio = 4.0;
+  settings->trave.bracket = settings->bracket;
+  return settings;
+}
+
+/// A ring of bars of 20 mm, 60 mm from the face, 0.5 to 4 percent of the section.
+inline osg::ref_ptr<xCircularReinfSettings> ring_of_bars() {
+  auto ring = with_cap_beam(common_settings<xCircularReinfSettings>(20.0, 60.0));
+  ring->setMinRatio(0.5);
+  ring->setMaxRatio(4.0);
+  return ring;
+}
+
+/// Two equal rows of bars of 20 mm with corner bars, 60 mm from the face, each with 0.2 to 2 percent
+/// of the section.
+inline osg::ref_ptr<xRectReinfSettings> rows_of_bars() {
+  auto rows = with_cap_beam(common_settings<xRectReinfSettings>(20.0, 60.0));
+  rows->minValle = rows->minMonte = 0.2;
+  rows->maxValle = rows->maxMonte = 2.0;
+  return rows;
+}
+
 /// What a test does not say: a pile of 600 mm every 1000 mm, 12 m long, of 30 000 N/mm², nu 0.2 and
 /// 25 kN/m³; a cap beam of 800 x 1000 mm (height x width); 6 m of excavation; no ground, no water,
 /// no anchor, no combination; one spring interval over the whole embedded length that takes the
-/// smaller limit; levels every 250 mm.
+/// smaller limit; levels every 250 mm; the reinforcement of `ring_of_bars` or `rows_of_bars`.
 class WallBuilder {
 public:
   static constexpr double ground_bottom = 30000.0;  ///< depth to which the last layer goes [mm]
@@ -132,21 +163,16 @@ public:
 
   /// Round piles by their diameter and length [mm].
   WallBuilder& pile(double diameter, double length) {
-    osg::ref_ptr<xCircSecProp> circle = new xCircSecProp;
-    circle->setRadius(diameter / 2.0);
-    circle->computeProp();
-    wall_->section = circle;
+    wall_->section = circle(diameter);
+    wall_->checkSettings.reinforcementSettings = ring_of_bars();
     wall_->setLength(length);
     return *this;
   }
 
   /// Panels by their two stored dimensions and length [mm]; the first is the depth in bending.
   WallBuilder& panel(double first, double second, double length) {
-    osg::ref_ptr<xRectSecProp> section = new xRectSecProp;
-    section->setFirst(first);
-    section->setSecond(second);
-    section->computeProp();
-    wall_->section = section;
+    wall_->section = rectangle_section(first, second);
+    wall_->checkSettings.reinforcementSettings = rows_of_bars();
     wall_->setLength(length);
     return *this;
   }
