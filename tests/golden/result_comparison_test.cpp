@@ -65,5 +65,43 @@ TEST(ResultComparison, TellsAListOfAnotherLength) {
   EXPECT_THAT(compared("cond_names", {"a", "b"}, {"a", "c"}), SizeIs(1));
 }
 
+TEST(ResultComparison, ComparesAPartOfABlock) {
+  const Json expected = {{"uls", {{"wall", 1.0}, {"slope", 2.0}}}};
+  const Json actual = {{"uls", {{"wall", 1.0 + 9e-7}, {"slope", 3.0}}}};
+  EXPECT_THAT(differences(expected, actual, {"uls/wall"}), IsEmpty());
+  EXPECT_THAT(differences(expected, actual, {"uls/slope"}), SizeIs(1));
+  EXPECT_THAT(differences(expected, actual, {"uls/piles"}), ElementsAre("uls/piles: missing"));
+  EXPECT_THAT(differences({{"uls", nullptr}}, {{"uls", nullptr}}, {"uls"}), IsEmpty());
+}
+
+Json sections(double upper_moment, double lower_moment, std::size_t worst) {
+  Json list;
+  for (const double moment : {0.0, upper_moment, lower_moment})
+    list.push_back({{"z", list.empty() ? 0.0 : 500.0}, {"Md", moment}});
+  return {{"worst", worst}, {"sections", list}};
+}
+
+std::vector<std::string> verified(const Json& expected, const Json& actual) {
+  return differences({{"uls", expected}}, {{"uls", actual}}, {"uls"});
+}
+
+TEST(ResultComparison, JudgesAForceByThoseOfTheOtherSections) {
+  EXPECT_THAT(verified(sections(1.0, 1e6, 2), sections(1.5, 1e6, 2)), IsEmpty());
+  EXPECT_THAT(verified(sections(1.0, 1e6, 2), sections(2.5, 1e6, 2)),
+              ElementsAre(HasSubstr("sections[1].Md")));
+}
+
+TEST(ResultComparison, TakesTheTwoSectionsOfANodeForOne) {
+  EXPECT_THAT(verified(sections(1.0, 1.0, 1), sections(1.0, 1.0, 2)), IsEmpty());
+  EXPECT_THAT(verified(sections(1.0, 1.0, 1), sections(1.0, 1.0, 0)),
+              ElementsAre(HasSubstr("worst")));
+}
+
+TEST(ResultComparison, CountsARepeatedFailureOnce) {
+  EXPECT_THAT(compared("failures", {"a", "a", "b"}, {"a", "b"}), IsEmpty());
+  EXPECT_THAT(compared("failures", {"a", "b"}, {"b", "a"}), SizeIs(2));
+  EXPECT_THAT(compared("failures", {"a"}, {"a", "b"}), SizeIs(1));
+}
+
 }  // namespace
 }  // namespace ostrel::testing

@@ -16,8 +16,10 @@ struct Nearness {
   double after_solving = 1e-6;
 };
 
-/// The differences of the fields named in `blocks`, a line for each, at most 20. A field that the
-/// actual tree lacks is a difference; fields that only the actual one has are not.
+/// The differences of the fields named in `blocks`, as "sls" or "uls/wall", a line for each, at most
+/// 20. A field that the actual tree lacks is a difference; fields that only the actual one has are
+/// not. The worst of some sections is compared by its abscissa, a list of failures without its
+/// repetitions.
 std::vector<std::string> differences(const nlohmann::json& expected, const nlohmann::json& actual,
                                      const std::vector<std::string>& blocks,
                                      const Nearness& nearness = {});
