@@ -53,7 +53,14 @@ public:
   /// @retval errLoadUndefined  a load has no pressure diagram or no place on the wall
   OstrelErrorType solveForCombination(xLoadComb* comb, xCombResults& result);
 
-  /// The verifications of the ultimate limit states in their order; the first code ends them.
+  /// The verifications of the ultimate limit states in their order: wall, global stability, tendons
+  /// and bulbs of the anchors, vertical load on the piles, motion as a rigid body, cap beam, uplift
+  /// and piping. All are entered every time, and which combinations take part in each stands in
+  /// their tables of verifications. The first code ends the sequence; what earlier ones stored stays.
+  /// @param errors  receives the warnings of single verifications
+  /// @retval errNoWall  no pile wall; the forces are collected then
+  /// @retval errInvalidSection  no reinforcement settings that suit the wall's section
+  /// @retval other  that of the verification that could not be carried out
   OstrelErrorType checkULS(const xSheetpilingRes& results, xUltimateLimitStates& uls,
                            std::vector<xVeldError>& errors);
 
@@ -114,7 +121,8 @@ public:
 
 private:
   bool solveCombinations(xSheetpilingRes& results, std::vector<xVeldError>& errors);
-  OstrelErrorType solveOne(xLoadComb& comb, xCombResults& result);
+  OstrelErrorType solveOne(xLoadComb& comb, xCombResults& result, xFemSolver& beam);
+  OstrelErrorType solveOnBeam(xLoadComb* comb, xCombResults& result, xFemSolver& beam);
   OstrelErrorType addWeight(const xLoadComb& comb, xCombResults& result);
   OstrelErrorType addEarthPressure(const xLoadComb& comb, xCombResults& result);
   OstrelErrorType addWaterPressure(const xLoadComb& comb, xCombResults& result);

@@ -93,6 +93,11 @@ OstrelErrorType xSolver::addLoadCondition(std::size_t i, xLoadComb& comb, xCombR
 }
 
 OstrelErrorType xSolver::solveForCombination(xLoadComb* comb, xCombResults& result) {
+  xFemSolver beam;
+  return solveOnBeam(comb, result, beam);
+}
+
+OstrelErrorType xSolver::solveOnBeam(xLoadComb* comb, xCombResults& result, xFemSolver& beam) {
   const xPile_Sheetpiling* wall = ostrel::model::pile_wall(data);
   if (!wall) return errNoWall;
   if (!comb || comb->actions.size() != first_condition_action + data.loadConds.size()) {
@@ -107,10 +112,9 @@ OstrelErrorType xSolver::solveForCombination(xLoadComb* comb, xCombResults& resu
   if (code != ostrel::ok) return code;
 
   const auto& springs = result.subgradeModulus.springs;
-  xFemSolver solver;
   xCombRes raw;
-  code = solver.solve(femOptions, model.anchors, model.fem, springs, result.femLoadConds, raw,
-                      wall->getSpacing());
+  code = beam.solve(femOptions, model.anchors, model.fem, springs, result.femLoadConds, raw,
+                    wall->getSpacing());
   if (code == ostrel::ok) code = result.femResults.getData(data, model.anchors, model.fem, raw);
   if (code != ostrel::ok) return code;
   ostrel::driver::add_soil_limit_forces(springs, wall->getSpacing(), result.femResults.soilForces);

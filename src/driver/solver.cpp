@@ -59,13 +59,14 @@ xVeldErrorsType xSolver::solve(xSheetpilingRes& results, xUltimateLimitStates& u
 bool xSolver::solveCombinations(xSheetpilingRes& results, std::vector<xVeldError>& errors) {
   const std::int64_t id_obj = ostrel::model::pile_wall(data)->getIdObj();
   bool all_solved = true;
+  xFemSolver beam;  // its matrices serve all combinations
   for (xLoadComb& comb : data.loadCombs) {
     if (comb.actions.size() != data.loadConds.size() + fixed_actions) {
       errors.emplace_back(errCondListMismatch, -1, nullptr);
       return false;
     }
     xCombResults result;
-    if (const auto code = solveOne(comb, result); code != ostrel::ok) {
+    if (const auto code = solveOne(comb, result, beam); code != ostrel::ok) {
       errors.emplace_back(code, id_obj, named(comb).c_str());
       all_solved = false;
       continue;
@@ -75,7 +76,7 @@ bool xSolver::solveCombinations(xSheetpilingRes& results, std::vector<xVeldError
   return all_solved;
 }
 
-OstrelErrorType xSolver::solveOne(xLoadComb& comb, xCombResults& result) {
+OstrelErrorType xSolver::solveOne(xLoadComb& comb, xCombResults& result, xFemSolver& beam) {
   const xPile_Sheetpiling& wall = *ostrel::model::pile_wall(data);
   const formulType formula = data.calcSettings.get_EpFormuls(comb.getCombType() == combSeismic);
   const auto code = result.subgradeModulus.compute_SkSpring(
@@ -86,15 +87,5 @@ OstrelErrorType xSolver::solveOne(xLoadComb& comb, xCombResults& result) {
   result.setCombName(comb.getCombName());
   result.setcombIndex(comb.getcombIndex());
   comb.seismic.switchSign();
-  return solveForCombination(&comb, result);
-}
-
-OstrelErrorType xSolver::checkULS(const xSheetpilingRes& /*results*/, xUltimateLimitStates& /*uls*/,
-                                  std::vector<xVeldError>& /*errors*/) {
-  return ostrel::model::pile_wall(data) ? ostrel::ok : errNoWall;
-}
-
-OstrelErrorType xSolver::checkSLS(const xSheetpilingRes& results, xServiceabilityLimitStates& sls) {
-  const auto excavation = static_cast<unsigned>(model.fem.getJtsoil());
-  return sls.displacements.check(excavation, data, results.combResults);
+  return solveOnBeam(&comb, result, beam);
 }
