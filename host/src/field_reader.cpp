@@ -201,6 +201,11 @@ ObjectReader::~ObjectReader() {
   for (const auto& [name, value] : object_->items()) {
     if (asked_.contains(name) || is_comment(name, value)) continue;
     const std::string path = child_path(path_, fitted(name, longest_shown));
+    if (rules_->comments && name == "comment") {
+      ValueReader(value, path, *problems_, *rules_)
+          .refuse(std::string(texts(Text::a_text_or_lines)));
+      continue;
+    }
     if (rules_->tolerate_unknown) {
       problems_->remark(path, std::string(texts(Text::ignored_field)));
       continue;

@@ -2,6 +2,7 @@
 #include "schema_validation.h"
 
 #include "embedded_files.h"
+#include "field_reader.h"
 #include "json_text.h"
 
 #include <valijson/adapters/nlohmann_json_adapter.hpp>
@@ -50,8 +51,9 @@ void make_whole(Json& value) {
 }
 
 // From {"<root>", "[soils]", "[0]"}: whether a name or an index is meant shows the value around it.
-std::string path_of(const std::vector<std::string>& context, const Json& root) {
-  std::string path;
+SchemaFinding finding_at(const std::vector<std::string>& context, const Json& root) {
+  SchemaFinding finding;
+  std::string& path = finding.path;
   const Json* around = &root;
   for (const std::string& part : context) {
     if (part.size() < 2 || part.front() != '[') continue;
@@ -59,16 +61,18 @@ std::string path_of(const std::vector<std::string>& context, const Json& root) {
     if (around->is_array()) {
       const auto index = static_cast<std::size_t>(std::strtoul(name.c_str(), nullptr, 10));
       path = child_path(path, index);
+      finding.place.push_back(std::to_string(index));
       if (index >= around->size()) break;
       around = &(*around)[index];
     } else {
       path = child_path(path, name);
+      finding.place.push_back(name);
       const auto found = around->find(name);
       if (found == around->end()) break;
       around = &*found;
     }
   }
-  return path;
+  return finding;
 }
 
 // Whether `inner` is `outer` or stands within it.
@@ -95,19 +99,22 @@ std::vector<SchemaFinding> schema_findings(const Json& project) {
   valijson::Validator validator;
   valijson::ValidationResults results;
   validator.validate(parsed_schema(), Adapter(whole), &results);
-  std::map<std::string, std::string> messages;
+  std::map<std::string, SchemaFinding> found;
   valijson::ValidationResults::Error error;
-  while (results.popError(error))
-    messages.emplace(path_of(error.context, whole), error.description);
+  while (results.popError(error)) {
+    SchemaFinding finding = finding_at(error.context, whole);
+    finding.message = error.description;
+    found.emplace(finding.path, finding);
+  }
   std::set<std::string> outer;
-  for (const auto& [path, message] : messages) {
+  for (const auto& [path, finding] : found) {
     for (std::string around = parent_of(path); !path.empty(); around = parent_of(around)) {
       if (!outer.insert(around).second || around.empty()) break;
     }
   }
   std::vector<SchemaFinding> findings;
-  for (const auto& [path, text] : messages) {
-    if (!outer.contains(path)) findings.push_back({path, text});
+  for (const auto& [path, finding] : found) {
+    if (!outer.contains(path)) findings.push_back(finding);
   }
   return findings;
 }
@@ -120,10 +127,12 @@ void check_schema(const Json& project, Problems& problems) {
     const bool known = std::any_of(told.begin(), told.end(), [&](const Problem& problem) {
       return is_within(problem.path, finding.path) || is_within(finding.path, problem.path);
     });
-    if (!known) {
-      problems.add(finding.path, finding.message,
-                   std::string(problems.texts()(Text::as_in_the_schema)));
-    }
+    if (known) continue;
+    const bool is_there = project.contains(finding.place);
+    const Json value = is_there ? project.at(finding.place) : Json();
+    const ReadingRules rules;
+    ValueReader(value, finding.path, problems, rules)
+        .refuse(problems.texts()(Text::as_in_the_schema, finding.message));
   }
 }
 

@@ -19,6 +19,7 @@ std::string_view project_schema();
 struct SchemaFinding {
   std::string path;
   std::string message;
+  nlohmann::json::json_pointer place;  ///< the path again, to look the value up
 };
 
 /// What is wrong by the schema: of findings within one another only the innermost, one for each

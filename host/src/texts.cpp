@@ -173,7 +173,7 @@ constexpr std::array<Row, count> rows{{
     {Text::limits_not_given,
      "la verifica \"displacements\" senza \"wall.displacement_limits\" non ha limiti",
      "the check \"displacements\" has no limits without \"wall.displacement_limits\""},
-    {Text::as_in_the_schema, "ciò che lo schema ammette", "what the schema allows"},
+    {Text::as_in_the_schema, "ciò che lo schema ammette ({0})", "what the schema allows ({0})"},
     {Text::stripes_too_wide,
      "strisce di {0} m, più larghe della lunghezza della paratia ({1} m): i fattori sono "
      "grossolani",
@@ -240,6 +240,7 @@ constexpr std::array<Row, count> rows{{
     {Text::not_a_folder, "un file al posto di una cartella", "a file in the place of a folder"},
     {Text::no_space, "disco pieno", "no space left"},
     {Text::read_only, "disco in sola lettura", "read-only disk"},
+    {Text::a_text_or_lines, "un testo o un elenco di testi", "a text or a list of texts"},
 }};
 
 constexpr bool in_order() {

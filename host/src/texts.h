@@ -134,7 +134,7 @@ enum class Text : std::int32_t {
   slope_or_false,
   needed_by_check,  // name of a verification
   limits_not_given,
-  as_in_the_schema,
+  as_in_the_schema,  // what the schema says
   stripes_too_wide,  // width, length of the wall
   circles_above_foot,
   circles_leave_ground,
@@ -168,6 +168,8 @@ enum class Text : std::int32_t {
   not_a_folder,
   no_space,
   read_only,
+  // Comments
+  a_text_or_lines,
   count_
 };
 

@@ -204,6 +204,14 @@ TEST(ProjectFile, TakesCommentsAndASchemaAnywhereTheyBelong) {
   EXPECT_THAT(read(project).errors, IsEmpty());
 }
 
+TEST(ProjectFile, RefusesACommentThatIsNoText) {
+  const ReadingOutcome outcome = read(with("/wall/comment", 3));
+  ASSERT_THAT(outcome.errors, SizeIs(1));
+  EXPECT_EQ(outcome.errors[0].path, "wall.comment");
+  EXPECT_EQ(outcome.errors[0].found, "3");
+  EXPECT_THAT(outcome.errors[0].allowed, HasSubstr("a list of texts"));
+}
+
 TEST(ProjectFile, IsNoTreeWithoutAnObject) {
   for (const char* text : {"3", "[]", "null", "\"x\""}) {
     Problems problems(Texts(Language::english));
