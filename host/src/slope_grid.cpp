@@ -101,7 +101,7 @@ std::vector<SlopeCentreInput> default_centres(const Project& project) {
   if (!ground || !(length > 0.0)) return {};
   const double base = std::max(ground->top, 0.0);
   const CentreBox box{.x_m = {-0.8 * length, 0.4 * length},
-                      .y_m = {base + 0.2 * length, base + 1.4 * length},
+                      .y_m = {base + 0.02 * length, base + 1.22 * length},
                       .spacing_m = 0.15 * length};
   std::vector<SlopeCentreInput> centres;
   for (SlopeCentreInput centre : centres_of(

@@ -51,8 +51,8 @@ std::vector<SlopeCentreInput> centres_of(const CentreBox& box, const CircleRange
 /// @name What is tried where the file says nothing
 ///
 /// Circles through the foot of the wall and below it, to half the wall's length, around centres from
-/// four fifths of the length in front of the wall to two fifths behind it and from a fifth to seven
-/// fifths above the highest ground. Circles that leave the ground sideways or below are left out:
+/// 0.8 of the length in front of the wall to 0.4 behind it and from 0.02 to 1.22 above the highest
+/// ground: the worst circles beside a vertical wall come up steeply, with a low centre. Circles that leave the ground sideways or below are left out:
 /// what lies outside of it has no weight and no strength.
 ///@{
 double default_stripe_width_m(const Project& project);

@@ -79,7 +79,7 @@ TEST(SlopeGrid, IsLeftOutByFalseAndChosenOtherwise) {
   EXPECT_THAT(outcome.errors[0].allowed, HasSubstr("false"));
 }
 
-// Piles of 10 m: centres from -8 m to 4 m and from 2 m to 14 m, every 1.5 m, circles from the foot
+// Piles of 10 m: centres from -8 m to 4 m and from 0.2 m to 12.2 m, every 1.5 m, circles from the foot
 // to 5 m below it. Nothing of the ground (40 m behind, 30 m in front, down to -30 m) is in their way.
 TEST(DefaultSlopeGrid, GoesThroughTheFootAndBelowIt) {
   const SlopeInput slope = *project_of(sound_project()).slope;
@@ -88,20 +88,21 @@ TEST(DefaultSlopeGrid, GoesThroughTheFootAndBelowIt) {
   EXPECT_EQ(slope.radius_step_m, 1.0);
   ASSERT_THAT(slope.centres, SizeIs(81));
   EXPECT_DOUBLE_EQ(slope.centres.front().x_m, -8.0);
-  EXPECT_DOUBLE_EQ(slope.centres.front().y_m, 2.0);
+  EXPECT_DOUBLE_EQ(slope.centres.front().y_m, 0.2);
   EXPECT_DOUBLE_EQ(slope.centres.back().x_m, 4.0);
-  EXPECT_DOUBLE_EQ(slope.centres.back().y_m, 14.0);
-  EXPECT_DOUBLE_EQ(slope.centres.front().least_radius_m, std::sqrt(64.0 + 144.0));
-  EXPECT_DOUBLE_EQ(slope.centres.front().largest_radius_m, std::sqrt(64.0 + 289.0));
+  EXPECT_DOUBLE_EQ(slope.centres.back().y_m, 12.2);
+  EXPECT_DOUBLE_EQ(slope.centres.front().least_radius_m, std::sqrt(64.0 + 10.2 * 10.2));
+  EXPECT_DOUBLE_EQ(slope.centres.front().largest_radius_m, std::sqrt(64.0 + 15.2 * 15.2));
 }
 
-// In front 12 m of ground at -4 m, up to (-12, -4). From (-8, 2) to there are sqrt(16 + 36) = 7.2 m,
-// less than the 14.4 m to the foot: no circles. From (4, 2) there are sqrt(256 + 36) = 17.09 m, more
-// than sqrt(16 + 144) = 12.65 m to the foot and less than sqrt(16 + 289) = 17.46 m to 5 m below it.
+// In front 11 m of ground at -4 m, up to (-11, -4). From (-8, 0.2) there are sqrt(9 + 17.64) = 5.16 m,
+// less than the 12.96 m to the foot: no circles. From (4, 0.2) there are sqrt(225 + 17.64) = 15.58 m,
+// more than sqrt(16 + 104.04) = 10.96 m to the foot and less than sqrt(16 + 231.04) = 15.72 m to 5 m
+// below it.
 TEST(DefaultSlopeGrid, StaysWithinTheGround) {
-  const Project project = project_of(with("/ground/excavated_width_m", 12));
+  const Project project = project_of(with("/ground/excavated_width_m", 11));
   const GroundBox ground = *ground_box(project.ground);
-  EXPECT_EQ(ground.left, -12.0);
+  EXPECT_EQ(ground.left, -11.0);
   EXPECT_EQ(ground.right, 40.0);
   EXPECT_EQ(ground.bottom, -30.0);
   EXPECT_EQ(ground.top, 0.0);
@@ -110,10 +111,10 @@ TEST(DefaultSlopeGrid, StaysWithinTheGround) {
   EXPECT_LT(centres.size(), 81u);
   for (const SlopeCentreInput& centre : centres) {
     EXPECT_TRUE(stays_within(centre, centre.largest_radius_m, ground, 4.0));
-    EXPECT_NE(std::abs(centre.x_m + 8.0) + std::abs(centre.y_m - 2.0), 0.0);
-    const bool lower_right = std::abs(centre.x_m - 4.0) + std::abs(centre.y_m - 2.0) < 1e-9;
+    EXPECT_NE(std::abs(centre.x_m + 8.0) + std::abs(centre.y_m - 0.2), 0.0);
+    const bool lower_right = std::abs(centre.x_m - 4.0) + std::abs(centre.y_m - 0.2) < 1e-9;
     if (lower_right) {
-      EXPECT_NEAR(centre.largest_radius_m, std::sqrt(292.0), 1e-9);
+      EXPECT_NEAR(centre.largest_radius_m, std::sqrt(242.64), 1e-9);
     }
   }
 }
@@ -125,8 +126,8 @@ TEST(DefaultSlopeGrid, StandsAboveTheHighestGround) {
        {{{"soil", "sand"},
          {"polygons_m",
           {{{-30, -30}, {60, -30}, {60, 3}, {10, 3}, {0, 0}, {0, -4}, {-30, -4}}}}}}}};
-  // A fifth of 10 m above +3 m.
-  EXPECT_DOUBLE_EQ(project_of(project).slope->centres.front().y_m, 5.0);
+  // 0.02 of 10 m above +3 m.
+  EXPECT_DOUBLE_EQ(project_of(project).slope->centres.front().y_m, 3.2);
 }
 
 }  // namespace
