@@ -3,6 +3,7 @@
 
 #include <ostrel/solver.h>
 
+#include <cstddef>
 #include <utility>
 
 namespace ostrel::host {
@@ -14,6 +15,9 @@ Outcome analyse(const Job& job) {
   Outcome outcome;
   outcome.verdict =
       solver.solve(outcome.results, outcome.ultimate, outcome.serviceability, outcome.messages);
+  const std::size_t combinations = solver.data.loadCombs.size();
+  outcome.verified = outcome.verdict != veldError
+                  || (combinations > 0 && outcome.results.combResults.size() == combinations);
   outcome.model = std::move(solver.model);
   return outcome;
 }

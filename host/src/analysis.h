@@ -28,6 +28,7 @@ struct Outcome {
   std::vector<xVeldError> messages;
   xSheetpilingModel model;  ///< ground and beam
   xSheetpilingRes results;  ///< of the combinations that were solved
+  bool verified = true;     ///< the run got as far as the verifications, through them or not
   xUltimateLimitStates ultimate;
   xServiceabilityLimitStates serviceability;
 };

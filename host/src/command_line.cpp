@@ -5,6 +5,7 @@
 #include "command_core.h"
 #include "command_new.h"
 #include "command_run.h"
+#include "command_show.h"
 #include "schema_validation.h"
 #include "texts.h"
 
@@ -14,6 +15,8 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstdlib>
+#include <limits>
 #include <optional>
 #include <ostream>
 
@@ -57,6 +60,7 @@ public:
     add_new();
     schema_ = app_.add_subcommand("schema", described(texts_, Text::schema_line));
     add_core();
+    add_show();
   }
 
   int run(std::vector<std::string> arguments) {
@@ -70,6 +74,7 @@ public:
     ostrel::set_language(code_of(is_core ? core_options_.texts.language() : texts_.language()));
     if (is_core) return run_core(core_options_, out_, err_);
     if (run_->parsed()) return run_project(run_options_, out_, err_);
+    if (show_->parsed()) return show_results(show_options_, out_, err_);
     if (check_->parsed()) return check_project_file(check_options_, out_, err_);
     if (expand_->parsed()) return expand_project_file(check_options_, out_, err_);
     if (new_->parsed()) return write_template(new_options_, out_, err_);
@@ -78,6 +83,19 @@ public:
   }
 
 private:
+  // What a limit should be instead; empty where it is.
+  std::string what_is_wrong_with_limit(const std::string& text) const {
+    const double limit = std::strtod(text.c_str(), nullptr);
+    const bool sound = limit > 0.0 && limit < std::numeric_limits<double>::infinity();
+    return sound ? "" : texts_(Text::a_number_in, texts_(Text::above, 0));
+  }
+
+  void add_limit(CLI::App* command, std::optional<double>& limit) {
+    command->add_option("--fail-below", limit, described(texts_, Text::limit_line))
+        ->check([this](const std::string& text) { return what_is_wrong_with_limit(text); })
+        ->type_name("FACTOR");
+  }
+
   void add_run() {
     run_options_.texts = texts_;
     run_ = app_.add_subcommand("run", described(texts_, Text::run_line));
@@ -87,6 +105,9 @@ private:
     run_->add_option("-o,--output", run_options_.folder,
                      described(texts_, Text::folder_for_results))
         ->type_name("DIR");
+    run_->add_option("--save", run_options_.results_file, described(texts_, Text::file_to_save))
+        ->type_name("FILE");
+    add_limit(run_, run_options_.fail_below);
     add_presets(*run_, run_options_.presets_file);
   }
 
@@ -127,6 +148,16 @@ private:
         ->type_name("FILE");
   }
 
+  void add_show() {
+    show_options_.texts = texts_;
+    show_ = app_.add_subcommand("show", described(texts_, Text::show_line));
+    show_
+        ->add_option("RESULTS", show_options_.results_file,
+                     described(texts_, Text::file_of_results))
+        ->required();
+    add_limit(show_, show_options_.fail_below);
+  }
+
   std::optional<Language> asked_;
   Texts texts_;
   std::ostream& out_;
@@ -135,6 +166,8 @@ private:
   std::string language_;
   CLI::App* run_ = nullptr;
   RunOptions run_options_;
+  CLI::App* show_ = nullptr;
+  ShowOptions show_options_;
   CLI::App* check_ = nullptr;
   CLI::App* expand_ = nullptr;
   CheckOptions check_options_;  // of either

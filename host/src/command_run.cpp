@@ -4,10 +4,12 @@
 #include "analysis.h"
 #include "atomic_file.h"
 #include "command_line.h"
+#include "command_show.h"
 #include "project_conversion.h"
 #include "project_loading.h"
 #include "result_files.h"
-#include "run_report.h"
+#include "results_file.h"
+#include "run_data.h"
 #include "system_reason.h"
 
 #include <filesystem>
@@ -47,24 +49,33 @@ int run_project(const RunOptions& options, std::ostream& out, std::ostream& err)
   const std::optional<Project> project =
       load_project({options.project_file, options.presets_file}, options.texts, err).project;
   if (!project) return exit_bad_input;
-  const bool to_files = !options.folder.empty();
-  if (const std::error_code error = to_files ? prepare(options.folder) : std::error_code()) {
-    err << options.texts(Text::cannot_write, options.folder, reason_of(error, options.texts))
-        << "\n";
+  const auto cannot_write = [&](const std::string& path, const std::error_code& error) {
+    err << options.texts(Text::cannot_write, path, reason_of(error, options.texts)) << "\n";
     return exit_bad_input;
+  };
+  const bool to_files = !options.folder.empty();
+  const bool to_save = !options.results_file.empty();
+  if (to_files) {
+    if (const auto error = prepare(options.folder)) return cannot_write(options.folder, error);
+  }
+  if (to_save) {
+    if (const auto error = try_writing(options.results_file))
+      return cannot_write(options.results_file, error);
   }
   const Job job = to_job(*project);
   const Outcome outcome = analyse(job);
-  for (const std::string& note : project->notes)
-    out << note << "\n";
-  out << run_report(*project, job, outcome, options.texts);
-  for (const xVeldError& message : outcome.messages)
-    err << message.MakeErrStr() << "\n";
+  const RunData data = run_data_of(*project, job, outcome);
+  const int status = print_run(data, options.fail_below, options.texts, out, err);
   if (to_files) {
     if (!write_files(options, result_files(*project, job, outcome), err)) return exit_bad_input;
     out << "\n" << options.texts(Text::written_to, options.folder) << "\n";
   }
-  return outcome.verdict == veldError ? exit_analysis_failed : exit_fine;
+  if (to_save) {
+    if (const auto error = write_whole(options.results_file, saved_bytes(data, outcome.results)))
+      return cannot_write(options.results_file, error);
+    out << "\n" << options.texts(Text::saved_to, options.results_file) << "\n";
+  }
+  return status;
 }
 
 }  // namespace ostrel::host

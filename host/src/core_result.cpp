@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "core_result.h"
 
+#include "core_ultimate.h"
+
 #include <string>
 
 namespace ostrel::host {
@@ -198,6 +200,7 @@ Json core_result(const Outcome& outcome) {
           {"layers", layers_of(outcome.model)},
           {"mesh", mesh_of(outcome.model)},
           {"combinations", std::move(combinations)},
+          {"uls", outcome.verified ? core_ultimate(outcome.ultimate) : Json()},
           {"sls", through ? displacement_checks_of(outcome.serviceability) : Json()},
           {"sls_sf_min", through ? Json(least_factor_of(outcome.serviceability)) : Json()}};
 }

@@ -206,7 +206,8 @@ std::string child_path(const std::string& path, std::size_t index) {
   return fmt::format("{}[{}]", path, index);
 }
 
-std::optional<std::string> read_file(const std::string& file, Problems& problems) {
+std::optional<std::string> read_file(const std::string& file, Problems& problems,
+                                     std::size_t max_bytes) {
   const Texts& texts = problems.texts();
   const auto cannot = [&](const std::error_code& error) {
     problems.add("", texts(Text::cannot_read, reason_of(error, texts)),
@@ -224,9 +225,9 @@ std::optional<std::string> read_file(const std::string& file, Problems& problems
   while (stream.read(block.data(), static_cast<std::streamsize>(block.size())),
          stream.gcount() > 0) {
     text.append(block.data(), static_cast<std::size_t>(stream.gcount()));
-    if (text.size() > max_file_bytes) {
+    if (text.size() > max_bytes) {
       problems.add("", std::string(texts(Text::file_too_large)),
-                   texts(Text::at_most_megabytes, max_file_bytes >> 20u));
+                   texts(Text::at_most_megabytes, max_bytes >> 20u));
       return std::nullopt;
     }
   }

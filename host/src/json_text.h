@@ -18,8 +18,9 @@ namespace ostrel::host {
 inline constexpr std::size_t max_file_bytes = 32u << 20u;  ///< larger files are not read
 inline constexpr int max_json_depth = 64;                  ///< deeper nesting is refused
 
-/// Reads a whole file. On failure tells why and returns nothing.
-std::optional<std::string> read_file(const std::string& file, Problems& problems);
+/// Reads a whole file. On failure, and for one larger than `max_bytes`, tells why and returns nothing.
+std::optional<std::string> read_file(const std::string& file, Problems& problems,
+                                     std::size_t max_bytes = max_file_bytes);
 
 /// Turns the bare words NaN, Infinity and -Infinity outside of texts into texts of the same
 /// letters, so that a strict parser accepts what many programs write.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "questionable_circles.h"
 
+#include "formulation_checks.h"
 #include "slope_grid.h"
 
 #include <algorithm>
@@ -54,12 +55,7 @@ void remark_upon_circles(const Project& project, Problems& problems) {
   if (ground && std::any_of(slope.centres.begin(), slope.centres.end(), leaves)) {
     problems.remark("slope", std::string(texts(Text::circles_leave_ground)));
   }
-  for (const LayerInput& layer : project.ground.layers) {
-    const SoilInput& soil = project.soils[layer.soil];
-    if (slope.formulation == 1 && !(soil.friction_angle_deg > 0.0)) {
-      problems.remark("slope.method", texts(Text::bishop_in_clay, soil.name));
-    }
-  }
+  check_formulation(project, problems);
 }
 
 }  // namespace ostrel::host

@@ -8,7 +8,7 @@
 namespace ostrel::host {
 
 /// Remarks upon stripes wider than the wall is long, circles of which none passes below the foot or
-/// some leave the ground, and slices by Bishop in soils without friction. Only where a combination
+/// some leave the ground, and the method "bishop" on cohesive soils of little friction. Only where a combination
 /// searches circles. The numbers of the project are sound.
 void remark_upon_circles(const Project& project, Problems& problems);
 

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "run_report.h"
 
-#include "summary.h"
 #include "text_table.h"
+#include "verification_table.h"
+#include "wall_tables.h"
 
 #include <ostrel/vocabulary.h>
 
 #include <cstddef>
-#include <utility>
+#include <vector>
 
 namespace ostrel::host {
 
@@ -26,47 +27,43 @@ std::string depth(double metres) {
 
 class Report {
 public:
-  Report(const Project& project, const Job& job, const Outcome& outcome, const Texts& texts)
-      : project_(project), job_(job), outcome_(outcome), texts_(texts) {}
+  Report(const RunData& data, const Texts& texts) : data_(data), texts_(texts) {}
 
   std::string text() {
     std::string report = head();
-    for (std::size_t i = 0; i < project_.combinations.size(); ++i) {
-      report += "\n" + combination(i);
+    for (const CombinationData& combination : data_.combinations)
+      report += "\n" + text_of(combination);
+    const xUltimateLimitStates& ultimate = data_.ultimate;
+    for (const std::string& table : {section_table(ultimate.structuralDesign, texts_),
+                                     reinforcement_table(ultimate.structuralDesign, texts_),
+                                     verification_table(data_, texts_)}) {
+      if (!table.empty()) report += "\n" + table;
     }
     return report;
   }
 
 private:
   std::string head() const {
-    const WallInput& wall = project_.wall;
     const std::string section =
-        wall.is_diaphragm ? texts_(Text::diaphragm_line, wall.thickness_mm, depth(wall.spacing_m))
-                          : texts_(Text::pile_row_line, wall.diameter_mm, depth(wall.spacing_m));
-    const Text unit = wall.is_diaphragm ? Text::forces_of_a_panel : Text::forces_of_a_pile;
-    return fitted(project_.name, terminal_width) + "\n" + section + "\n"
-         + texts_(Text::geometry_line, depth(wall.length_m), depth(project_.excavation_depth_m))
-         + "\n" + texts_(unit, depth(wall.spacing_m)) + "\n" + std::string(texts_(Text::signs_line))
-         + "\n" + std::string(texts_(Text::moment_sign_line)) + "\n";
+        data_.is_diaphragm
+            ? texts_(Text::diaphragm_line, data_.thickness_mm, depth(data_.spacing_m))
+            : texts_(Text::pile_row_line, data_.diameter_mm, depth(data_.spacing_m));
+    const Text unit = data_.is_diaphragm ? Text::forces_of_a_panel : Text::forces_of_a_pile;
+    return fitted(data_.name, terminal_width) + "\n" + section + "\n"
+         + texts_(Text::geometry_line, depth(data_.length_m), depth(data_.excavation_depth_m))
+         + "\n" + texts_(unit, depth(data_.spacing_m)) + "\n"
+         + std::string(texts_(Text::signs_line)) + "\n"
+         + std::string(texts_(Text::moment_sign_line)) + "\n";
   }
 
-  const xCombResults* result_of(std::size_t place) const {
-    for (const xCombResults& result : outcome_.results.combResults) {
-      if (result.getcombIndex() == static_cast<int>(place) + 1) return &result;
-    }
-    return nullptr;
-  }
-
-  std::string combination(std::size_t place) const {
-    const CombinationInput& input = project_.combinations[place];
+  std::string text_of(const CombinationData& combination) const {
     const auto* kinds = xGetCombTypeMap();
-    const auto kind = kinds->find(input.kind);
+    const auto kind = kinds->find(combination.kind);
     const std::string title =
-        input.name + (kind == kinds->end() ? std::string() : " - " + kind->second);
-    const xCombResults* result = result_of(place);
-    const std::string body = result == nullptr ? std::string(texts_(Text::no_result)) + "\n"
-                                               : table(summary_of(job_, outcome_, *result));
-    return fitted(title, terminal_width) + "\n" + body;
+        combination.name + (kind == kinds->end() ? std::string() : " - " + kind->second);
+    return fitted(title, terminal_width) + "\n"
+         + (combination.summary ? table(*combination.summary)
+                                : std::string(texts_(Text::no_result)) + "\n");
   }
 
   std::string table(const Summary& summary) const {
@@ -106,22 +103,19 @@ private:
   }
 
   std::string anchor_label(std::size_t place) const {
-    const bool named = place < project_.anchors.size() && !project_.anchors[place].name.empty();
-    return texts_(Text::anchor_row,
-                  named ? project_.anchors[place].name : fmt::format("{}", place + 1));
+    const std::vector<std::string>& names = data_.anchor_names;
+    const bool named = place < names.size() && !names[place].empty();
+    return texts_(Text::anchor_row, named ? names[place] : fmt::format("{}", place + 1));
   }
 
-  const Project& project_;
-  const Job& job_;
-  const Outcome& outcome_;
+  const RunData& data_;
   const Texts& texts_;
 };
 
 }  // namespace
 
-std::string run_report(const Project& project, const Job& job, const Outcome& outcome,
-                       const Texts& texts) {
-  return Report(project, job, outcome, texts).text();
+std::string run_report(const RunData& data, const Texts& texts) {
+  return Report(data, texts).text();
 }
 
 }  // namespace ostrel::host

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "text_table.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace ostrel::host {
@@ -19,6 +22,22 @@ bool is_control(char byte) {
   return static_cast<unsigned char>(byte) < 0x20u || byte == 0x7F;
 }
 
+std::string printable(std::string text) {
+  std::replace_if(text.begin(), text.end(), is_control, '?');
+  return text;
+}
+
+// How many bytes the first `columns` characters take.
+std::size_t bytes_of(const std::string& text, std::size_t columns) {
+  std::size_t end = 0;
+  for (std::size_t i = 0; i < columns && end < text.size(); ++i) {
+    ++end;
+    while (end < text.size() && continues(text[end]))
+      ++end;
+  }
+  return end;
+}
+
 std::string padded(const std::string& text, std::size_t width, TextTable::Side side) {
   const std::string cell = fitted(text, width);
   const std::string blank(width - columns_of(cell), ' ');
@@ -33,16 +52,29 @@ std::size_t columns_of(const std::string& text) {
 }
 
 std::string fitted(const std::string& text, std::size_t width) {
-  std::string clean = text;
-  std::replace_if(clean.begin(), clean.end(), is_control, '?');
+  const std::string clean = printable(text);
   if (columns_of(clean) <= width) return clean;
-  std::size_t end = 0;
-  for (std::size_t columns = 0; columns + 1 < width; ++columns) {
-    ++end;
-    while (end < clean.size() && continues(clean[end]))
-      ++end;
+  return clean.substr(0, bytes_of(clean, width - 1)) + "…";
+}
+
+std::string wrapped(const std::string& text, std::size_t width, std::size_t indent) {
+  std::string rest = printable(text);
+  std::string lines;
+  std::string margin;
+  while (columns_of(margin + rest) > width) {
+    const std::size_t end = bytes_of(rest, width - margin.size());
+    const std::size_t blank = rest.rfind(' ', end);
+    const bool broken = blank == std::string::npos || blank == 0;
+    lines += margin + rest.substr(0, broken ? end : blank) + "\n";
+    rest.erase(0, broken ? end : blank + 1);
+    margin.assign(indent, ' ');
   }
-  return clean.substr(0, end) + "…";
+  return lines + margin + rest;
+}
+
+std::string number_text(double value, int decimals) {
+  if (!(std::abs(value) < 1e8)) return fmt::format("{:.3g}", value);
+  return fmt::format("{:.{}f}", value, decimals);
 }
 
 void TextTable::add_column(std::string heading, Side side) {
@@ -78,9 +110,10 @@ std::vector<std::size_t> TextTable::widths() const {
     widths.push_back(width);
     total += width + (i > 0 ? gap : 0);
   }
-  if (total > terminal_width && !widths.empty()) {
+  if (total > terminal_width && giving_way_ < widths.size()) {
+    std::size_t& width = widths[giving_way_];
     const std::size_t excess = total - terminal_width;
-    widths[0] = std::max(narrowest, widths[0] > excess ? widths[0] - excess : 0);
+    width = std::max(narrowest, width > excess ? width - excess : 0);
   }
   return widths;
 }

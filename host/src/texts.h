@@ -124,6 +124,69 @@ enum class Text : std::int32_t {
   mobilised_row,
   anchor_row,
   no_result,
+  // Verifications
+  verifications_title,
+  heading_check,
+  heading_factor,
+  heading_combination,
+  heading_place,
+  heading_outcome,
+  check_wall,
+  check_cap_beam,
+  check_anchor_tendon,
+  check_anchor_pullout,
+  check_bearing,
+  check_rigid_body,
+  check_slope,
+  check_uplift,
+  check_piping,
+  check_displacements,
+  place_bending,  // depth
+  place_shear,    // depth
+  in_bending,
+  in_shear,
+  by_sliding,
+  by_rotation,
+  at_head,
+  at_excavation,
+  satisfied,
+  not_satisfied,
+  not_determined,
+  not_made,
+  unlimited_note,
+  not_made_note,
+  checks_incomplete,
+  failures_title,
+  below_limit,               // check, factor, limit, combination
+  below_limit_undetermined,  // check, combination
+  bishop_on_cohesion,        // angle, names of soils
+  // Tables of the wall and of the slip circles
+  sections_title,
+  sections_note,
+  reinforcement_title,
+  reinforcement_note,
+  cap_beam_title,      // width, height
+  ring_line,           // bars, spiral
+  sides_line,          // bars, stirrups
+  excavation_bars,     // bars
+  retained_bars,       // bars
+  corner_bars,         // bars
+  stirrups_with_legs,  // stirrups, legs
+  no_stirrups,
+  circles_title,
+  heading_radius,
+  heading_resisting,
+  heading_driving,
+  // A file of results
+  show_line,
+  file_of_results,
+  file_to_save,
+  limit_line,
+  saved_to,  // file
+  foreign_results,
+  results_of_version,  // version
+  damaged_results,
+  saved_results,
   written_to,
   support_horizontal_row,
   support_vertical_row,
@@ -138,7 +201,6 @@ enum class Text : std::int32_t {
   stripes_too_wide,  // width, length of the wall
   circles_above_foot,
   circles_leave_ground,
-  bishop_in_clay,  // name of a soil
   // Standards and seismic coefficients
   seismic_line_ntc2008,
   seismic_line_en1998,

@@ -13,6 +13,7 @@ namespace ostrel::host {
 namespace {
 
 using ::testing::AllOf;
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
@@ -167,6 +168,86 @@ TEST_F(CommandLine, RefusesAWrongCase) {
   EXPECT_EQ(called.status, exit_bad_input);
   EXPECT_THAT(called.out, IsEmpty());
   EXPECT_THAT(called.err, HasSubstr("soil_layers"));
+}
+
+TEST_F(CommandLine, SavesARunAndShowsItAgain) {
+  const std::string results = (folder_ / "r.ostrel").string();
+  const Called run = call({"run", project(sound_project()), "--save", results, "--lang", "en"});
+  EXPECT_EQ(run.status, exit_fine) << run.err;
+  EXPECT_THAT(folder_.names(), ElementsAre("p.json", "r.ostrel"));
+  const Called show = call({"show", results, "--lang", "en"});
+  EXPECT_EQ(show.status, exit_fine) << show.err;
+  EXPECT_EQ(show.out + "\nResults saved in " + results + "\n", run.out);
+  EXPECT_THAT(call({"show", results, "--lang", "it"}).out, HasSubstr("Momento massimo"));
+}
+
+TEST_F(CommandLine, ShowsWhatThereIsOfARunThatFailed) {
+  Json json = sound_project();
+  json["combinations"].push_back(
+      {{"name", "too much"}, {"type", "ultimate"}, {"actions", {{"earth_pressure", 80}}}});
+  const std::string results = (folder_ / "r").string();
+  const Called run = call({"run", project(json), "--save", results, "--lang", "en"});
+  EXPECT_EQ(run.status, exit_analysis_failed);
+  const Called show = call({"show", results, "--lang", "en"});
+  EXPECT_EQ(show.status, exit_analysis_failed);
+  EXPECT_EQ(show.err, run.err);
+  EXPECT_THAT(show.out, HasSubstr("verifications are incomplete"));
+}
+
+TEST_F(CommandLine, RefusesToShowWhatIsNoFileOfResults) {
+  const std::vector<std::string> files = {folder_.write("a", "{}").string(),
+                                          folder_.path().string(), (folder_ / "none").string()};
+  for (const std::string& file : files) {
+    const Called called = call({"show", file, "--lang", "en"});
+    EXPECT_EQ(called.status, exit_bad_input);
+    EXPECT_THAT(called.out, IsEmpty());
+    EXPECT_THAT(called.err, HasSubstr(file));
+  }
+}
+
+TEST_F(CommandLine, TellsBeforeTheAnalysisThatItCannotSave) {
+  const Called called =
+      call({"run", project(sound_project()), "--save", (folder_ / "none/r").string()});
+  EXPECT_EQ(called.status, exit_bad_input);
+  EXPECT_THAT(called.out, IsEmpty());
+  EXPECT_THAT(called.err, HasSubstr("none/r"));
+}
+
+// A project whose displacements are verified against limits that they miss by far.
+Json project_with_displacements_beyond_limits() {
+  Json json = sound_project();
+  json["wall"]["displacement_limits"] = {{"head_mm", 0.01}, {"excavation_mm", 0.01}};
+  json["combinations"].push_back(
+      {{"name", "SLE"}, {"type", "rare"}, {"checks", {"displacements"}}});
+  return json;
+}
+
+TEST_F(CommandLine, EndsWellWhateverTheFactorsUnlessALimitIsGiven) {
+  const std::string file = project(project_with_displacements_beyond_limits());
+  const Called plain = call({"run", file, "--lang", "en"});
+  EXPECT_EQ(plain.status, exit_fine) << plain.err;
+  EXPECT_THAT(plain.out, HasSubstr("not satisfied"));
+  const Called limited = call({"run", file, "--fail-below", "1.0", "--lang", "en"});
+  EXPECT_EQ(limited.status, exit_analysis_failed);
+  EXPECT_EQ(limited.out, plain.out);
+  EXPECT_THAT(limited.err,
+              AllOf(HasSubstr("Displacements: the factor "), HasSubstr("(combination SLE)")));
+  EXPECT_EQ(call({"run", file, "--fail-below", "1e-9"}).status, exit_fine);
+}
+
+TEST_F(CommandLine, HoldsSavedResultsToALimitToo) {
+  const std::string file = project(project_with_displacements_beyond_limits());
+  const std::string results = (folder_ / "r").string();
+  EXPECT_EQ(call({"run", file, "--save", results}).status, exit_fine);
+  EXPECT_EQ(call({"show", results}).status, exit_fine);
+  EXPECT_EQ(call({"show", results, "--fail-below=1"}).status, exit_analysis_failed);
+}
+
+TEST_F(CommandLine, TakesOnlyAPositiveLimit) {
+  for (const char* limit : {"0", "-1", "nan", "inf", "x"}) {
+    EXPECT_EQ(call({"run", project(sound_project()), "--fail-below", limit}).status,
+              exit_bad_input);
+  }
 }
 
 }  // namespace

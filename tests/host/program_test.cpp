@@ -63,6 +63,35 @@ TEST_F(ProgramTest, EndsWith2WhereTheFileIsWrong) {
   }
 }
 
+TEST_F(ProgramTest, ShowsWhatItSavedAndRefusesWhatIsCut) {
+  const std::string saved = "'" + (folder_ / "saved").string() + "'";
+  run("run " + project(sound_project().dump()) + " --lang en --save " + saved);
+  EXPECT_EQ(status_, 0);
+  EXPECT_THAT(folder_.names(), ::testing::ElementsAre("err", "out", "p.json", "saved"));
+  const std::string printed = out_;
+  run("show " + saved + " --lang en");
+  EXPECT_EQ(status_, 0);
+  EXPECT_TRUE(printed.starts_with(out_)) << out_;
+  EXPECT_THAT(out_, HasSubstr("Verifications"));
+  const std::string bytes = contents_of(folder_ / "saved");
+  folder_.write("cut", bytes.substr(0, bytes.size() / 2));
+  run("show '" + (folder_ / "cut").string() + "' --lang en");
+  EXPECT_EQ(status_, 2);
+  EXPECT_THAT(out_, IsEmpty());
+  EXPECT_THAT(err_, HasSubstr("cut or damaged"));
+}
+
+TEST_F(ProgramTest, EndsWith1WhereAFactorIsBelowTheLimit) {
+  Json json = sound_project();
+  json["wall"]["displacement_limits"] = {{"head_mm", 0.01}, {"excavation_mm", 0.01}};
+  json["combinations"].push_back(
+      {{"name", "SLE"}, {"type", "rare"}, {"checks", {"displacements"}}});
+  run("run " + project(json.dump()) + " --fail-below 1.0", "LC_ALL=it_IT.UTF-8");
+  EXPECT_EQ(status_, 1);
+  EXPECT_THAT(err_, HasSubstr("Spostamenti: il fattore 0.0"));
+  EXPECT_THAT(err_, HasSubstr("è sotto 1 (combinazione SLE)"));
+}
+
 TEST_F(ProgramTest, SpeaksTheLanguageOfTheEnvironment) {
   run("run " + project(sound_project().dump()), "LC_ALL=it_IT.UTF-8");
   EXPECT_THAT(out_, HasSubstr("Momento massimo"));

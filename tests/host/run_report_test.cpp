@@ -19,7 +19,7 @@ using Json = nlohmann::json;
 std::string report_of(const Json& json, Language language = Language::english) {
   const Project project = project_of(json);
   const Job job = to_job(project);
-  return run_report(project, job, analyse(job), Texts(language));
+  return run_report(run_data_of(project, job, analyse(job)), Texts(language));
 }
 
 TEST(RunReport, TellsTheWallAndItsSigns) {
@@ -38,7 +38,7 @@ TEST(RunReport, TellsTheFiguresOfEachCombination) {
   EXPECT_THAT(report, HasSubstr("\nSecond - "));
   EXPECT_THAT(report, HasSubstr("Largest moment"));
   EXPECT_THAT(report, HasSubstr("Most used soil spring"));
-  EXPECT_THAT(report, Not(HasSubstr("Anchor")));
+  EXPECT_THAT(report, Not(HasSubstr("\nAnchor 1")));
   EXPECT_THAT(report, Not(HasSubstr("Support")));
 }
 
@@ -61,6 +61,13 @@ TEST(RunReport, SaysWhichCombinationHasNoResult) {
   project["combinations"].push_back(
       {{"name", "too much"}, {"type", "ultimate"}, {"actions", {{"earth_pressure", 80}}}});
   EXPECT_THAT(report_of(project), HasSubstr("\nNo result: see the messages.\n"));
+}
+
+TEST(RunReport, EndsWithAllVerifications) {
+  const std::string report = report_of(sound_project());
+  EXPECT_THAT(report, HasSubstr("\nVerifications: the smallest factor of each\n"));
+  EXPECT_THAT(report, HasSubstr("\nWall sections "));
+  EXPECT_THAT(report, HasSubstr("\nDisplacements "));
 }
 
 TEST(RunReport, KeepsToTheWidthOfATerminal) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "text_table.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <sstream>
 
@@ -48,6 +48,34 @@ TEST(FittedText, MarksWhatIsCut) {
 
 TEST(FittedText, HoldsNoControlCharacters) {
   EXPECT_EQ(fitted("a\nb\x1b[31m", 20), "a?b?[31m");
+}
+
+TEST(TextTable, LetsTheNamedColumnGiveWay) {
+  TextTable table;
+  table.add_column("A", TextTable::Side::left);
+  table.add_column("B", TextTable::Side::left);
+  table.give_way(1);
+  table.add_row({std::string(30, 'a'), std::string(60, 'b')});
+  const std::string text = table.render();
+  EXPECT_THAT(text,
+              ::testing::HasSubstr(std::string(30, 'a') + "  " + std::string(47, 'b') + "…\n"));
+}
+
+TEST(Wrapped, BreaksAtBlanksAndIndentsWhatFollows) {
+  EXPECT_EQ(wrapped("one two three", 80, 2), "one two three");
+  EXPECT_EQ(wrapped("one two three", 8, 2), "one two\n  three");
+  EXPECT_EQ(wrapped("one two three", 7, 2), "one two\n  three");
+}
+
+TEST(Wrapped, BreaksAWordThatFillsMoreThanALine) {
+  EXPECT_EQ(wrapped("àààààà", 4, 1), "àààà\n àà");
+  EXPECT_EQ(wrapped("a\x1b", 4, 1), "a?");
+}
+
+TEST(NumberText, HasDecimalsUnlessItIsTooWide) {
+  EXPECT_EQ(number_text(-1.25, 1), "-1.2");
+  EXPECT_EQ(number_text(12345678.0, 1), "12345678.0");
+  EXPECT_EQ(number_text(1e300, 2), "1e+300");
 }
 
 }  // namespace

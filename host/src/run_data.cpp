@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "run_data.h"
+
+#include <cstddef>
+#include <utility>
+
+namespace ostrel::host {
+
+namespace {
+
+// A result carries the number of its combination, from 1 up.
+const xCombResults* result_of(const Outcome& outcome, std::size_t place) {
+  for (const xCombResults& result : outcome.results.combResults) {
+    if (result.getcombIndex() == static_cast<int>(place) + 1) return &result;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+RunData run_data_of(const Project& project, const Job& job, const Outcome& outcome) {
+  const WallInput& wall = project.wall;
+  RunData data;
+  data.name = project.name;
+  data.is_diaphragm = wall.is_diaphragm;
+  data.diameter_mm = wall.diameter_mm;
+  data.thickness_mm = wall.thickness_mm;
+  data.spacing_m = wall.spacing_m;
+  data.length_m = wall.length_m;
+  data.excavation_depth_m = project.excavation_depth_m;
+  for (const AnchorInput& anchor : project.anchors)
+    data.anchor_names.push_back(anchor.name);
+  for (std::size_t i = 0; i < project.combinations.size(); ++i) {
+    CombinationData combination;
+    combination.name = project.combinations[i].name;
+    combination.kind = project.combinations[i].kind;
+    if (const xCombResults* result = result_of(outcome, i)) {
+      combination.summary = summary_of(job, outcome, *result);
+    }
+    data.combinations.push_back(std::move(combination));
+  }
+  data.notes = project.notes;
+  data.through = outcome.verdict != veldError;
+  for (const xVeldError& message : outcome.messages)
+    data.messages.push_back(message.MakeErrStr());
+  data.ultimate = outcome.ultimate;
+  data.serviceability = outcome.serviceability;
+  return data;
+}
+
+}  // namespace ostrel::host
