@@ -154,7 +154,7 @@ void pass(Way& way, SavedRun& run) {
   way.list(data.notes, text);
   way.list(data.messages, text);
   way.object(run.results);
-  way.object(data.ultimate.structuralDesign);
+  way.object(data.ultimate);
   way.object(data.serviceability);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "run_report.h"
 
+#include "slope_table.h"
 #include "text_table.h"
 #include "verification_table.h"
 #include "wall_tables.h"
@@ -34,9 +35,11 @@ public:
     for (const CombinationData& combination : data_.combinations)
       report += "\n" + text_of(combination);
     const xUltimateLimitStates& ultimate = data_.ultimate;
-    for (const std::string& table : {section_table(ultimate.structuralDesign, texts_),
-                                     reinforcement_table(ultimate.structuralDesign, texts_),
-                                     verification_table(data_, texts_)}) {
+    for (const std::string& table :
+         {section_table(ultimate.structuralDesign, texts_),
+          reinforcement_table(ultimate.structuralDesign, texts_),
+          cap_beam_table(ultimate.traveResults, texts_),
+          circle_table(ultimate.slopeStabilityDesign, texts_), verification_table(data_, texts_)}) {
       if (!table.empty()) report += "\n" + table;
     }
     return report;

@@ -49,6 +49,71 @@ Verification wall_of(const xStructuralDesign& design, const Texts& texts) {
   return worst;
 }
 
+Verification slope_of(const xSlopeStabilityDesign& design) {
+  Verification worst{.check = Check::slope};
+  for (const xSlopeStability& result : design.getResults()) {
+    consider(worst, result.getSf(), result.getCombName(), [&] {
+      return fmt::format("({}, {}) R {}", number_text(m_of_mm(result.getXC()), 1),
+                         number_text(m_of_mm(result.getYC()), 1),
+                         number_text(m_of_mm(result.getRadius()), 1));
+    });
+  }
+  return worst;
+}
+
+// Of the tendons and of their bond alike.
+template <class Design>
+Verification anchors_of(Check check, const Design& design) {
+  Verification worst{.check = check};
+  for (const auto& anchor : design.anchors) {
+    for (const xAnchorResults& result : anchor.combinations) {
+      consider(worst, result.getSf(), result.getCombName(),
+               [&] { return number_text(m_of_mm(result.depth), 2) + " m"; });
+    }
+  }
+  return worst;
+}
+
+Verification bearing_of(const xGeotechnicalPileDesign& design) {
+  Verification worst{.check = Check::bearing};
+  for (const xBearCapacityPile& result : design.results)
+    consider(worst, result.getSf(), result.getCombName(), [] { return std::string(); });
+  return worst;
+}
+
+Verification rigid_body_of(const xrigidBodyDesign& design, const Texts& texts) {
+  Verification worst{.check = Check::rigid_body};
+  for (const rigidBodyMotionCheck& result : design.results) {
+    const auto part = [&](double factor, Text place) {
+      consider(worst, factor, result.getCombName(), [&] { return std::string(texts(place)); });
+    };
+    part(result.SFTrasl(), Text::by_sliding);
+    part(result.SfRot(), Text::by_rotation);
+  }
+  return worst;
+}
+
+Verification cap_beam_of(const TraveResults& beam, const Texts& texts) {
+  Verification worst{.check = Check::cap_beam};
+  for (const xBendShearCombResults& combination : beam.bendShear.combinations) {
+    for (const xSectionCheck& section : combination.sections) {
+      consider(worst, section.getSf(), combination.getCombName(), [&] {
+        return std::string(texts(shear_governs(section) ? Text::in_shear : Text::in_bending));
+      });
+    }
+  }
+  return worst;
+}
+
+// Of uplift and of piping alike.
+template <class Result>
+Verification hydraulic_of(Check check, const std::vector<Result>& results) {
+  Verification worst{.check = check};
+  for (const Result& result : results)
+    consider(worst, result.getSf(), result.getCombName(), [] { return std::string(); });
+  return worst;
+}
+
 Verification displacements_of(const xServiceabilityLimitStates& serviceability,
                               const Texts& texts) {
   Verification worst{.check = Check::displacements};
@@ -67,11 +132,16 @@ Verification displacements_of(const xServiceabilityLimitStates& serviceability,
 std::vector<Verification> verifications_of(const xUltimateLimitStates& ultimate,
                                            const xServiceabilityLimitStates& serviceability,
                                            const Texts& texts) {
-  return {wall_of(ultimate.structuralDesign, texts),   Verification{.check = Check::cap_beam},
-          Verification{.check = Check::anchor_tendon}, Verification{.check = Check::anchor_pullout},
-          Verification{.check = Check::bearing},       Verification{.check = Check::rigid_body},
-          Verification{.check = Check::slope},         Verification{.check = Check::uplift},
-          Verification{.check = Check::piping},        displacements_of(serviceability, texts)};
+  return {wall_of(ultimate.structuralDesign, texts),
+          cap_beam_of(ultimate.traveResults, texts),
+          anchors_of(Check::anchor_tendon, ultimate.structuralAnchorDesign),
+          anchors_of(Check::anchor_pullout, ultimate.geotechnicalAnchorDesign),
+          bearing_of(ultimate.geotechnicalPileDesign),
+          rigid_body_of(ultimate.rigidBodyDesign, texts),
+          slope_of(ultimate.slopeStabilityDesign),
+          hydraulic_of(Check::uplift, ultimate.hydraulicChecks.uplift),
+          hydraulic_of(Check::piping, ultimate.hydraulicChecks.piping),
+          displacements_of(serviceability, texts)};
 }
 
 std::string_view name_of(Check check, const Texts& texts) {

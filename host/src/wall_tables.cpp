@@ -113,6 +113,13 @@ std::string reinforcement_table(const xStructuralDesign& design, const Texts& te
   return text;
 }
 
+std::string cap_beam_table(const TraveResults& beam, const Texts& texts) {
+  if (!beam.done || !beam.checked) return "";
+  const std::string bars =
+      wrapped("  " + reinforcement_text(*beam.checked, texts), terminal_width, 4);
+  return texts(Text::cap_beam_title, beam.B, beam.H) + "\n" + bars + "\n";
+}
+
 std::string reinforcement_text(xReinfCrossSection& record, const Texts& texts) {
   if (auto* rectangle = dynamic_cast<xReinfRectSection*>(&record)) {
     return sides_text(*rectangle, texts);

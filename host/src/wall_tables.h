@@ -18,6 +18,9 @@ std::string section_table(const xStructuralDesign& design, const Texts& texts);
 /// no section was verified, as the design then holds nothing but the least reinforcement.
 std::string reinforcement_table(const xStructuralDesign& design, const Texts& texts);
 
+/// The section of the cap beam and its reinforcement; empty where it was not verified.
+std::string cap_beam_table(const TraveResults& beam, const Texts& texts);
+
 /// The bars of a record in words, as "16 Ø20, spiral Ø10/150" of a ring.
 std::string reinforcement_text(xReinfCrossSection& record, const Texts& texts);
 

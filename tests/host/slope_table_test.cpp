@@ -13,22 +13,9 @@ namespace {
 
 using ::testing::HasSubstr;
 
-xSlopeStability circle(const std::string& name) {
-  xSlopeStability result;
-  result.setCheckID(7, 1, name);
-  stabChekData& data = result.getstabChekData();
-  data.xc = -4000.0;
-  data.yc = 4500.0;
-  data.radius = 21000.0;
-  data.sf = 2.0;
-  data.Mstab = 6e10;
-  data.Mdestab = -3e10;
-  return result;
-}
-
 TEST(CircleTable, TellsCentreRadiusMomentsAndFactor) {
   xSlopeStabilityDesign design;
-  design.getResults() = {circle("A")};
+  design.getResults() = {circle_of("A", 1)};
   const std::string table = circle_table(design, Texts(Language::english));
   EXPECT_THAT(squeezed(table), HasSubstr("\nA -4.00 4.50 21.00 60000.0 30000.0 2.00\n"));
   EXPECT_THAT(circle_table(design, Texts(Language::italian)), HasSubstr("Stabilità globale"));
@@ -40,7 +27,7 @@ TEST(CircleTable, IsEmptyWhereNoCircleWasSearched) {
 
 TEST(CircleTable, KeepsToTheWidthOfATerminal) {
   xSlopeStabilityDesign design;
-  design.getResults() = {circle(std::string(90, 'c'))};
+  design.getResults() = {circle_of(std::string(90, 'c'), 1)};
   design.getResults()[0].setMstab(1e300);
   for (const Language language : {Language::english, Language::italian}) {
     std::istringstream lines(circle_table(design, Texts(language)));

@@ -86,5 +86,92 @@ TEST(FactorText, HasWordsForWhatIsBeyondNumbers) {
   EXPECT_EQ(factor_text(no_number), "?");
 }
 
+TEST(Verification, OfTheSlopeIsTheWorstCircle) {
+  xUltimateLimitStates ultimate;
+  ultimate.slopeStabilityDesign.getResults() = {circle_of("A", 1), circle_of("B", 2)};
+  ultimate.slopeStabilityDesign.getResults()[0].setSf(2.5);
+  const Verification slope = found(Check::slope, ultimate);
+  EXPECT_EQ(slope.factor, 2.0);
+  EXPECT_EQ(slope.combination, "B");
+  EXPECT_EQ(slope.place, "(-4.0, 4.5) R 21.0");
+}
+
+TEST(Verification, OfTheAnchorsIsTheWorstOfAll) {
+  xUltimateLimitStates ultimate;
+  ultimate.structuralAnchorDesign.anchors.resize(2);
+  ultimate.structuralAnchorDesign.anchors[0].combinations = {
+      anchor_result<xStrAnchorCombRes>("A", 3.0), anchor_result<xStrAnchorCombRes>("B", 1.5)};
+  ultimate.structuralAnchorDesign.anchors[1].combinations = {
+      anchor_result<xStrAnchorCombRes>("C", 2.0)};
+  ultimate.geotechnicalAnchorDesign.anchors.resize(1);
+  ultimate.geotechnicalAnchorDesign.anchors[0].combinations = {
+      anchor_result<xGeoAnchorCombRes>("D", 0.5)};
+  const Verification tendon = found(Check::anchor_tendon, ultimate);
+  EXPECT_EQ(tendon.factor, 1.5);
+  EXPECT_EQ(tendon.combination, "B");
+  EXPECT_EQ(tendon.place, "2.00 m");
+  const Verification pullout = found(Check::anchor_pullout, ultimate);
+  EXPECT_EQ(pullout.factor, 0.5);
+  EXPECT_EQ(pullout.combination, "D");
+}
+
+// 300 / 200 and 240 / 200.
+TEST(Verification, OfTheBearingIsTheWorstCombination) {
+  xUltimateLimitStates ultimate;
+  ultimate.geotechnicalPileDesign.results.resize(2);
+  for (xBearCapacityPile& result : ultimate.geotechnicalPileDesign.results)
+    result.setFd(200e3);
+  ultimate.geotechnicalPileDesign.results[0].setRd(300e3);
+  ultimate.geotechnicalPileDesign.results[1].setRd(240e3);
+  ultimate.geotechnicalPileDesign.results[1].setxCombName("B");
+  const Verification bearing = found(Check::bearing, ultimate);
+  EXPECT_DOUBLE_EQ(bearing.factor, 1.2);
+  EXPECT_EQ(bearing.combination, "B");
+  EXPECT_EQ(bearing.place, "");
+}
+
+// Sliding 300 / 200 = 1.5, rotation 120 / 100 = 1.2.
+TEST(Verification, OfTheRigidBodyTellsSlidingFromRotation) {
+  xUltimateLimitStates ultimate;
+  ultimate.rigidBodyDesign.results.resize(1);
+  rigidBodyMotionCheck& result = ultimate.rigidBodyDesign.results[0];
+  result.Hdest = -200.0;
+  result.Hres = 300.0;
+  result.Mdest = 100.0;
+  result.Mres = 120.0;
+  EXPECT_DOUBLE_EQ(found(Check::rigid_body, ultimate).factor, 1.2);
+  EXPECT_EQ(found(Check::rigid_body, ultimate).place, "rotation");
+  result.Mres = 200.0;
+  EXPECT_DOUBLE_EQ(found(Check::rigid_body, ultimate).factor, 1.5);
+  EXPECT_EQ(found(Check::rigid_body, ultimate).place, "sliding");
+}
+
+// Bending 300 / 100, shear 200 / 100.
+TEST(Verification, OfTheCapBeamTellsBendingFromShear) {
+  xUltimateLimitStates ultimate;
+  ultimate.traveResults.bendShear.combinations = {sections_of("A", 1, {section_at(0, 100, 100)})};
+  EXPECT_DOUBLE_EQ(found(Check::cap_beam, ultimate).factor, 2.0);
+  EXPECT_EQ(found(Check::cap_beam, ultimate).place, "shear");
+}
+
+// Uplift (1 * 300) / (1.5 * 100) = 2; piping (1 / 1.25) / (1 / 4) = 3.2.
+TEST(Verification, OfTheWaterAreUpliftAndPiping) {
+  xUltimateLimitStates ultimate;
+  ultimate.hydraulicChecks.uplift.resize(1);
+  verificaSollevamento& uplift = ultimate.hydraulicChecks.uplift[0];
+  uplift.Udst = 100.0;
+  uplift.Gstb = 300.0;
+  uplift.gammaStb = 1.0;
+  uplift.gammaDst = 1.5;
+  ultimate.hydraulicChecks.piping.resize(1);
+  verificaSifonamento& piping = ultimate.hydraulicChecks.piping[0];
+  piping.dH = 1.0;
+  piping.Ld = 4.0;
+  piping.iCrit = 1.0;
+  piping.gammaR = 1.25;
+  EXPECT_DOUBLE_EQ(found(Check::uplift, ultimate).factor, 2.0);
+  EXPECT_DOUBLE_EQ(found(Check::piping, ultimate).factor, 3.2);
+}
+
 }  // namespace
 }  // namespace ostrel::host

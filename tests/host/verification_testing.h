@@ -72,6 +72,32 @@ inline xStructuralDesign verified_wall() {
   return design;
 }
 
+/// A circle of 21 m about (-4, 4.5) m with the factor 2 from moments of 60 000 and -30 000 kNm.
+inline xSlopeStability circle_of(const std::string& name, int index) {
+  xSlopeStability result;
+  result.setCheckID(7, index, name);
+  stabChekData& data = result.getstabChekData();
+  data.xc = -4000.0;
+  data.yc = 4500.0;
+  data.radius = 21000.0;
+  data.sf = 2.0;
+  data.Mstab = 6e10;
+  data.Mdestab = -3e10;
+  return result;
+}
+
+/// Fills a result of an anchor at 2 m with the force 200 kN and the resistance `factor` times that.
+template <class Result>
+Result anchor_result(const std::string& name, double factor) {
+  Result result;
+  result.setCheckID(9, 1, name);
+  result.depth = 2000.0;
+  result.setFd(200e3);
+  result.setRd(factor * 200e3);
+  result.setSf(factor);
+  return result;
+}
+
 /// Head 8 mm of 20 mm, excavation level 5 mm of 10 mm: the factors 2.5 and 2.
 inline xServiceabilityLimitStates verified_displacements() {
   xServiceLimitDispCombRes result;

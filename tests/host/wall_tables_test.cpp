@@ -92,5 +92,19 @@ TEST(ReinforcementText, SaysWhereThereAreNoStirrups) {
   EXPECT_EQ(reinforcement_text(*ring, english), "6 Ø20, spiral none");
 }
 
+TEST(CapBeamTable, TellsTheSectionWhereItWasVerified) {
+  TraveResults beam;
+  EXPECT_EQ(cap_beam_table(beam, english), "");
+  beam.B = 1000.0;
+  beam.H = 800.0;
+  beam.checked = rectangle(2, 2, 4);
+  EXPECT_EQ(cap_beam_table(beam, english), "");
+  beam.done = true;
+  EXPECT_EQ(cap_beam_table(beam, english),
+            "Cap beam 1000 x 800 mm: reinforcement of the design\n"
+            "  excavation side 2 Ø24, retained side 2 Ø24, corners 4 Ø24, stirrups Ø12/200\n"
+            "    with 4 legs\n");
+}
+
 }  // namespace
 }  // namespace ostrel::host
