@@ -15,6 +15,8 @@ namespace ostrel::host {
 
 namespace {
 
+using OrderedJson = nlohmann::ordered_json;
+
 // The standards; nothing where their file is wrong, which is told.
 std::optional<nlohmann::json> load_presets(const ProjectSource& source, const Texts& texts,
                                            std::ostream& err) {
@@ -23,6 +25,18 @@ std::optional<nlohmann::json> load_presets(const ProjectSource& source, const Te
   std::optional<nlohmann::json> presets = read_presets(source.presets_file, problems);
   err << problems.report(source.presets_file, "");
   return presets;
+}
+
+// A combination as a person writes it.
+OrderedJson in_reading_order(const nlohmann::json& combination) {
+  OrderedJson ordered;
+  for (const char* name : {"name", "type", "comment", "soil_factors", "resistance_factors",
+                           "seismic", "actions", "checks"}) {
+    if (combination.contains(name)) {
+      ordered[name] = OrderedJson::parse(combination.at(name).dump());
+    }
+  }
+  return ordered;
 }
 
 }  // namespace
@@ -52,12 +66,16 @@ std::optional<std::string> expanded_project(const ProjectSource& source, const T
   const auto project = text ? read_project(*text, problems, {.presets = &*presets}) : std::nullopt;
   err << problems.report(source.project_file, text ? *text : "");
   if (!project) return std::nullopt;
+  for (const std::string& note : project->notes)
+    err << note << "\n";
   // The fields keep the order of the file.
-  auto json = nlohmann::ordered_json::parse(*text);
+  auto json = OrderedJson::parse(*text);
   nlohmann::json expanded = nlohmann::json::parse(*text);
   expand_presets(expanded, *presets, problems);
   json.erase("standard");
-  json["combinations"] = nlohmann::ordered_json::parse(expanded.at("combinations").dump());
+  OrderedJson& combinations = json["combinations"];
+  for (std::size_t i = combinations.size(); i < expanded.at("combinations").size(); ++i)
+    combinations.push_back(in_reading_order(expanded.at("combinations")[i]));
   return json.dump(2) + "\n";
 }
 

@@ -27,8 +27,8 @@ struct LoadedProject {
 /// Reads and checks a project. @param err  gets every error and every remark
 LoadedProject load_project(const ProjectSource& source, const Texts& texts, std::ostream& err);
 
-/// The text of a project with the combinations of its standard written out; nothing on failure,
-/// which is told.
+/// The text of a project with the combinations of its standard written out; nothing on failure.
+/// @param err  gets every error and remark, and the notes on the standard
 std::optional<std::string> expanded_project(const ProjectSource& source, const Texts& texts,
                                             std::ostream& err);
 

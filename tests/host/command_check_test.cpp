@@ -68,8 +68,18 @@ TEST_F(CommandCheck, PrintsASoundProjectForOneWithAStandard) {
   ASSERT_EQ(call({"expand", project(json)}), exit_fine);
   const Json expanded = Json::parse(out_.str());
   EXPECT_FALSE(expanded.contains("standard"));
+  EXPECT_THAT(err_.str(), HasSubstr("to be confirmed against the standard"));
   EXPECT_EQ(expanded["combinations"][0]["name"], "DA2 A1+M1+R2");
   EXPECT_EQ(call({"check", project(expanded)}), exit_fine);
+}
+
+TEST_F(CommandCheck, ExpandsBehindTheCombinationsOfTheFile) {
+  ASSERT_EQ(call({"expand", project(with("/standard", "EN1997-DA2"))}), exit_fine);
+  const auto combinations = nlohmann::ordered_json::parse(out_.str())["combinations"];
+  EXPECT_EQ(combinations[0]["name"], "C");
+  EXPECT_EQ(combinations[1]["name"], "DA2 A1+M1+R2");
+  EXPECT_EQ(combinations[1].begin().key(), "name");
+  EXPECT_EQ(combinations[1]["actions"]["loads"]["Q"]["unfavourable"], 1.5);
 }
 
 TEST_F(CommandCheck, ExpandsNothingThatIsWrong) {
