@@ -1,8 +1,13 @@
 """How the pages of this folder become a site; script/docs runs it."""
+import json
 import os
 import pathlib
+import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
+sys.path.insert(0, str(ROOT / "docs"))
+
+import project_fields  # noqa: E402  (lies beside this file)
 
 project = "Ostrel"
 author = "The authors of Ostrel"
@@ -10,7 +15,7 @@ copyright = "the authors of Ostrel"  # the name that the generator reads  # noqa
 
 extensions = ["myst_parser", "breathe"]
 source_suffix = {".md": "markdown", ".rst": "restructuredtext"}
-exclude_patterns = ["README.md"]
+exclude_patterns = ["README.md", "project_fields.md"]
 myst_enable_extensions = ["colon_fence", "deflist"]
 myst_heading_anchors = 3
 suppress_warnings = ["myst.header"]
@@ -54,6 +59,12 @@ def write_reference(_app):
     write_if_new(REFERENCE.parent / "reference.md", "\n".join(lines))
 
 
+def write_project_fields(_app):
+    """The fields of a project file, included by its page."""
+    schema = json.loads((ROOT / "host/schema/project.schema.json").read_text(encoding="utf-8"))
+    write_if_new(ROOT / "docs/project_fields.md", project_fields.fields_page(schema))
+
+
 def write_if_new(path, text):
     if not path.exists() or path.read_text(encoding="utf-8") != text:
         path.write_text(text, encoding="utf-8")
@@ -61,3 +72,4 @@ def write_if_new(path, text):
 
 def setup(app):
     app.connect("builder-inited", write_reference)
+    app.connect("builder-inited", write_project_fields)
