@@ -128,7 +128,7 @@ std::string number(double value, int digits) {
 
 std::string told_difference(const Figure& figure) {
   const double unit = is_absolute(figure) ? 1.0 : std::abs(figure.published) / 100.0;
-  const double least = std::max(figure.allowed() / 100.0, 1e-9 * std::abs(figure.published)) / unit;
+  const double least = std::max(figure.allowed() / 10.0, 1e-8 * std::abs(figure.published)) / unit;
   const double step = std::pow(10.0, std::floor(std::log10(least)));
   const double steps = std::round(figure.difference() / unit / step);
   if (!(std::abs(steps) > 0.0)) return "0";

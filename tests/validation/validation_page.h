@@ -13,7 +13,7 @@ namespace ostrel::validation {
 std::string number(double value, int digits);
 
 /// The difference of a figure to what was published, absolute where its tolerance is and else in per
-/// cent: with two digits, but to no less than a hundredth of the tolerance and 1e-9 of the published
+/// cent: with two digits, but to no less than a tenth of the tolerance and 1e-8 of the published
 /// value, so that it is the same in every build.
 std::string told_difference(const Figure& figure);
 

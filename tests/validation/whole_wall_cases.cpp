@@ -198,7 +198,8 @@ Chapter whole_walls() {
           "Published walls that other models analyse: in limit equilibrium, in stages, with active "
           "pressure below the excavation. They are run as near as the model allows and show the "
           "order of magnitude. Moments and anchor forces come out up to a third below those of "
-          "limit equilibrium: whoever needs these has to work them out apart.",
+          "limit equilibrium: see [before you "
+          "sign](signing.md#nothing-pushes-below-the-excavation).",
           {simpson_quay(), das_cantilever_in_water(), das_cantilever(), das_anchored()}};
 }
 
