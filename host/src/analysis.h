@@ -8,6 +8,7 @@
 #include <ostrel/serviceability.h>
 #include <ostrel/sheetpiling_data.h>
 #include <ostrel/sheetpiling_model.h>
+#include <ostrel/slope_stability.h>
 #include <ostrel/ultimate_limit_states.h>
 
 #include <string>
@@ -35,5 +36,8 @@ struct Outcome {
 
 /// Runs the analysis. The job stays as it is: the run works on a copy.
 Outcome analyse(const Job& job);
+
+/// The search of slip circles of each combination that asks for it.
+const std::vector<xSlopeStability>& slope_results(const Outcome& outcome);
 
 }  // namespace ostrel::host

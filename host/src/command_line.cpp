@@ -4,6 +4,7 @@
 #include "command_check.h"
 #include "command_core.h"
 #include "command_new.h"
+#include "command_report.h"
 #include "command_run.h"
 #include "command_show.h"
 #include "schema_validation.h"
@@ -59,6 +60,7 @@ public:
     add_check(expand_, "expand", Text::expand_line);
     add_new();
     schema_ = app_.add_subcommand("schema", described(texts_, Text::schema_line));
+    add_report();
     add_core();
     add_show();
   }
@@ -75,6 +77,7 @@ public:
     if (is_core) return run_core(core_options_, out_, err_);
     if (run_->parsed()) return run_project(run_options_, out_, err_);
     if (show_->parsed()) return show_results(show_options_, out_, err_);
+    if (report_->parsed()) return report_project(report_options_, out_, err_);
     if (check_->parsed()) return check_project_file(check_options_, out_, err_);
     if (expand_->parsed()) return expand_project_file(check_options_, out_, err_);
     if (new_->parsed()) return write_template(new_options_, out_, err_);
@@ -108,6 +111,8 @@ private:
     run_->add_option("--save", run_options_.results_file, described(texts_, Text::file_to_save))
         ->type_name("FILE");
     add_limit(run_, run_options_.fail_below);
+    run_->add_option("--report", run_options_.report_file, described(texts_, Text::file_for_report))
+        ->type_name("FILE");
     add_presets(*run_, run_options_.presets_file);
   }
 
@@ -134,6 +139,21 @@ private:
         ->type_name("")
         ->required();
     new_->add_flag("--force", new_options_.force, described(texts_, Text::force_line));
+  }
+
+  void add_report() {
+    report_options_.texts = texts_;
+    report_ = app_.add_subcommand("report", described(texts_, Text::report_line));
+    report_
+        ->add_option("PROJECT.json", report_options_.project_file,
+                     described(texts_, Text::file_of_project))
+        ->required();
+    report_
+        ->add_option("-o,--output", report_options_.report_file,
+                     described(texts_, Text::file_for_report))
+        ->type_name("FILE")
+        ->required();
+    add_presets(*report_, report_options_.presets_file);
   }
 
   void add_core() {
@@ -175,6 +195,8 @@ private:
   NewOptions new_options_;
   CLI::App* schema_ = nullptr;
   CLI::App* core_ = nullptr;
+  CLI::App* report_ = nullptr;
+  ReportOptions report_options_;
   CoreOptions core_options_;
 };
 

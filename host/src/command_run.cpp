@@ -4,6 +4,7 @@
 #include "analysis.h"
 #include "atomic_file.h"
 #include "command_line.h"
+#include "command_report.h"
 #include "command_show.h"
 #include "project_conversion.h"
 #include "project_loading.h"
@@ -23,10 +24,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Makes the folder and tries it, before the analysis.
+// Makes the folders and tries to write, before the analysis.
 std::error_code prepare(const std::string& folder) {
   std::error_code error;
   fs::create_directories(folder, error);
+  if (!error) fs::create_directories(fs::path(folder) / figure_folder, error);
   return error ? error : try_writing((fs::path(folder) / "result.json").string());
 }
 
@@ -62,18 +64,22 @@ int run_project(const RunOptions& options, std::ostream& out, std::ostream& err)
     if (const auto error = try_writing(options.results_file))
       return cannot_write(options.results_file, error);
   }
+  if (!may_write_report(options.report_file, options.texts, err)) return exit_bad_input;
   const Job job = to_job(*project);
   const Outcome outcome = analyse(job);
   const RunData data = run_data_of(*project, job, outcome);
   const int status = print_run(data, options.fail_below, options.texts, out, err);
   if (to_files) {
-    if (!write_files(options, result_files(*project, job, outcome), err)) return exit_bad_input;
+    if (!write_files(options, result_files(*project, job, outcome, options.texts.language()), err)) return exit_bad_input;
     out << "\n" << options.texts(Text::written_to, options.folder) << "\n";
   }
   if (to_save) {
     if (const auto error = write_whole(options.results_file, saved_bytes(data, outcome.results)))
       return cannot_write(options.results_file, error);
     out << "\n" << options.texts(Text::saved_to, options.results_file) << "\n";
+  }
+  if (!write_report(options.report_file, *project, job, outcome, options.texts, out, err)) {
+    return exit_bad_input;
   }
   return status;
 }

@@ -14,6 +14,7 @@ struct RunOptions {
   std::string project_file;
   std::string presets_file;          ///< standards; empty for those of the program
   std::string folder;                ///< for the files; empty for none
+  std::string report_file;           ///< for the report; empty for none
   std::string results_file;          ///< to save the results in; empty for none
   std::optional<double> fail_below;  ///< the factor that every verification has to reach
   Texts texts{Language::english};

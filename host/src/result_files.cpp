@@ -3,6 +3,7 @@
 
 #include "core_result.h"
 #include "csv.h"
+#include "figures.h"
 #include "summary.h"
 #include "units.h"
 
@@ -130,10 +131,17 @@ void add_summary(const Summary& summary, CsvTable& csv) {
   }
 }
 
+ResultFile figure_file(const Figure& figure, Language language) {
+  OrderedJson plot = in_language(figure.plot, language);
+  plot["layout"]["meta"] = {{"id", figure.id}, {"caption", figure.caption.in(language)}};
+  return {fmt::format("{}/{}.json", figure_folder, figure.id),
+          plot.dump(1, ' ', false, OrderedJson::error_handler_t::replace) + "\n"};
+}
+
 }  // namespace
 
 std::vector<ResultFile> result_files(const Project& project, const Job& job,
-                                     const Outcome& outcome) {
+                                     const Outcome& outcome, Language language) {
   std::vector<ResultFile> files{{"result.json", result_json(project, outcome)}};
   CsvTable summary_csv({"combination", "quantity", "value", "depth_m"});
   for (const xCombResults& combination : outcome.results.combResults) {
@@ -144,6 +152,8 @@ std::vector<ResultFile> result_files(const Project& project, const Job& job,
     files.push_back({file_name(summary, "pressures"), pressure_csv(combination)});
   }
   files.push_back({"summary.csv", summary_csv.text()});
+  for (const Figure& figure : figures(project, job, outcome))
+    files.push_back(figure_file(figure, language));
   return files;
 }
 

@@ -4,21 +4,25 @@
 
 #include "analysis.h"
 #include "project.h"
+#include "texts.h"
 
 #include <string>
 #include <vector>
 
 namespace ostrel::host {
 
+inline constexpr const char* figure_folder = "figures";
+
 struct ResultFile {
-  std::string name;  ///< without a folder
+  std::string name;  ///< beneath the folder of the results, with "/" before that of a figure
   std::string contents;
 };
 
 /// All results as JSON in the library's units ("result.json"), the largest values of every
 /// combination ("summary.csv"), and three tables for each combination in engineering units: along
 /// the wall, of the springs, and of the pressures. Their names begin with the combination's number.
-std::vector<ResultFile> result_files(const Project& project, const Job& job,
-                                     const Outcome& outcome);
+/// Then each figure as plotly draws it, its texts in one language, in a folder of its own.
+std::vector<ResultFile> result_files(const Project& project, const Job& job, const Outcome& outcome,
+                                     Language language);
 
 }  // namespace ostrel::host

@@ -64,11 +64,13 @@ enum class Text : std::int32_t {
   cannot_write,  // file, reason
   program_line,
   run_line,
+  report_line,
   core_line,
   file_of_project,
   file_of_case,
   folder_for_results,
   file_for_results,
+  file_for_report,
   language_line,
   help_line,
   version_line,
@@ -188,6 +190,7 @@ enum class Text : std::int32_t {
   damaged_results,
   saved_results,
   written_to,
+  report_written,  // file
   support_horizontal_row,
   support_vertical_row,
   support_moment_row,

@@ -72,6 +72,12 @@ constexpr double kn_m_of_n_mm(double x) {
 constexpr double kn_m3_of_n_mm3(double x) {
   return x * 1e6;
 }
+constexpr double cm2_of_mm2(double x) {
+  return x / 1e2;
+}
+constexpr double cm2_m_of_mm2_mm(double x) {
+  return x * 1e1;
+}
 constexpr double mrad_of_rad(double x) {
   return x * 1e3;
 }

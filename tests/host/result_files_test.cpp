@@ -12,6 +12,7 @@
 namespace ostrel::host {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
@@ -23,12 +24,14 @@ protected:
     const Project project = project_of(json);
     const Job job = to_job(project);
     outcome_ = analyse(job);
-    files_ = result_files(project, job, outcome_);
+    files_ = result_files(project, job, outcome_, Language::italian);
   }
-  std::vector<std::string> names() const {
+  // Of the figures, or of all others.
+  std::vector<std::string> names(bool of_figures = false) const {
     std::vector<std::string> names;
-    for (const ResultFile& file : files_)
-      names.push_back(file.name);
+    for (const ResultFile& file : files_) {
+      if (file.name.starts_with("figures/") == of_figures) names.push_back(file.name);
+    }
     return names;
   }
   std::string contents(const std::string& name) const {
@@ -56,6 +59,15 @@ TEST_F(ResultFiles, AreNamedAfterNumberAndNameOfTheCombination) {
   EXPECT_THAT(names(), ElementsAre("result.json", "01-SLU-A1-M1-citt-wall.csv",
                                    "01-SLU-A1-M1-citt-springs.csv",
                                    "01-SLU-A1-M1-citt-pressures.csv", "summary.csv"));
+}
+
+TEST_F(ResultFiles, HoldEachFigureInOneLanguage) {
+  run(sound_project());
+  EXPECT_THAT(names(true), Contains("figures/01-moment.json"));
+  const Json figure = Json::parse(contents("figures/01-moment.json"));
+  EXPECT_EQ(figure["data"][0]["name"], "Momento flettente");
+  EXPECT_EQ(figure["layout"]["xaxis"]["title"]["text"], "Momento flettente [kNm]");
+  EXPECT_EQ(figure["layout"]["meta"]["id"], "01-moment");
 }
 
 TEST_F(ResultFiles, NeedNoLettersInTheName) {

@@ -1,0 +1,39 @@
+#pragma once
+/// @file  Texts of a report, which holds both languages at once. Room: host
+// SPDX-License-Identifier: Apache-2.0
+//
+// What is printed on a terminal is in one language and stands in `texts.cpp`. A report can be read
+// in either, so its texts stand where they are used, Italian and English side by side.
+
+#include "texts.h"
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+
+namespace ostrel::host {
+
+using OrderedJson = nlohmann::ordered_json;
+
+/// One text in both languages.
+struct Both {
+  std::string italian;
+  std::string english;
+
+  const std::string& in(Language language) const {
+    return language == Language::italian ? italian : english;
+  }
+};
+
+/// A name, a symbol or a unit, which is the same in both languages.
+inline Both same(const std::string& text) {
+  return {text, text};
+}
+
+/// As {"it": ..., "en": ...}.
+void to_json(OrderedJson& json, const Both& text);
+
+/// A value with the text of one language in the place of each {"it": ..., "en": ...} in it.
+OrderedJson in_language(const OrderedJson& value, Language language);
+
+}  // namespace ostrel::host

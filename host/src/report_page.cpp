@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "report_page.h"
+
+#include "figures.h"
+#include "report_block.h"
+#include "report_files.h"
+#include "report_input.h"
+#include "report_results.h"
+#include "section_drawing.h"
+#include "svg.h"
+
+#include <ostrel/version.h>
+
+#include <map>
+#include <string_view>
+#include <utility>
+
+namespace ostrel::host {
+
+namespace {
+
+std::string program() {
+  return std::string("ostrel ") + ostrel::version();
+}
+
+// For the inside of a script element: no text of the data can end it.
+std::string data_text(const OrderedJson& data) {
+  const std::string text = data.dump(-1, ' ', false, OrderedJson::error_handler_t::replace);
+  std::string safe;
+  safe.reserve(text.size());
+  for (const char letter : text) {
+    if (letter == '<') {
+      safe += "\\u003c";
+    } else {
+      safe += letter;
+    }
+  }
+  return safe;
+}
+
+// The template with a value in the place of each @{name}. What a value holds is not looked at.
+std::string filled(std::string_view page, const std::map<std::string_view, std::string>& values) {
+  std::string result;
+  for (;;) {
+    const std::size_t mark = page.find("@{");
+    if (mark == std::string_view::npos) break;
+    const std::size_t end = page.find('}', mark);
+    result += page.substr(0, mark);
+    const auto value = values.find(page.substr(mark + 2, end - mark - 2));
+    if (value != values.end()) result += value->second;
+    page.remove_prefix(end + 1);
+  }
+  return result += page;
+}
+
+OrderedJson message_block(const Outcome& outcome) {
+  static const Both error{"Errore:", "Error:"};
+  static const Both warning{"Attenzione:", "Warning:"};
+  static const Both remark{"Informazione:", "Information:"};
+  OrderedJson items = OrderedJson::array();
+  for (const xVeldError& message : outcome.messages) {
+    const bool is_error = message.getErr() == veldError;
+    const bool is_warning = message.getErr() == veldWarning;
+    items.push_back({{"severity", is_error ? "error" : is_warning ? "warning" : "remark"},
+                     {"label", is_error ? error : is_warning ? warning : remark},
+                     {"text", message.GetErrorStr()}});
+  }
+  return {{"kind", "messages"}, {"items", std::move(items)}};
+}
+
+OrderedJson result_blocks(const Project& project, const Job& job, const Outcome& outcome,
+                          const std::vector<Figure>& figures) {
+  OrderedJson blocks = OrderedJson::array();
+  if (outcome.verdict == veldError) {
+    blocks.push_back(note_block({"L'analisi ha segnalato un errore: i risultati non sono completi.",
+                                 "The analysis reported an error: the results are not complete."}));
+  }
+  for (OrderedJson& block : overview_blocks(project, job, outcome, figures))
+    blocks.push_back(std::move(block));
+  if (!outcome.messages.empty()) blocks.push_back(message_block(outcome));
+  return blocks;
+}
+
+OrderedJson convention_blocks(const Project& project) {
+  OrderedJson blocks = OrderedJson::array();
+  const double width = project.wall.spacing_m;
+  if (project.wall.is_diaphragm) {
+    blocks.push_back(note_block(
+        {fmt::format("Le forze sono quelle di un pannello, {:.2f} m di paratia.", width),
+         fmt::format("Forces are those of one panel, {:.2f} m of wall.", width)}));
+  } else {
+    blocks.push_back(
+        note_block({fmt::format("Le forze sono quelle di un palo, {:.2f} m di paratia.", width),
+                    fmt::format("Forces are those of one pile, {:.2f} m of wall.", width)}));
+  }
+  blocks.push_back(note_block({"Quote in metri dalla testa della paratia, positive verso l'alto; "
+                               "profondità dalla testa, positive verso il basso.",
+                               "Levels in metres from the head of the wall, positive upwards; depths "
+                               "from the head, positive downwards."}));
+  blocks.push_back(note_block({"Spostamenti e forze orizzontali positivi verso lo scavo; momenti "
+                               "positivi se tendono il lato dello scavo; trazione positiva.",
+                               "Displacements and horizontal forces count positive towards the "
+                               "excavation; moments where they stretch the excavation side; tension "
+                               "is positive."}));
+  blocks.push_back(note_block({"Pressioni e reazioni per unità di area della paratia, su tutto "
+                               "l'interasse. Un fattore di sicurezza di almeno 1 soddisfa la verifica.",
+                               "Pressures and reactions by area of wall, over the whole distance "
+                               "between axes. A safety factor of at least 1 satisfies a "
+                               "verification."}));
+  return blocks;
+}
+
+}  // namespace
+
+OrderedJson report_data(const Project& project, const Job& job, const Outcome& outcome,
+                        Language language) {
+  const std::vector<Figure> drawn = figures(project, job, outcome);
+  OrderedJson chapters = OrderedJson::array();
+  const auto add = [&](const char* id, const Both& title, OrderedJson blocks) {
+    if (blocks.empty()) return;
+    chapters.push_back({{"id", id}, {"title", title}, {"blocks", std::move(blocks)}});
+  };
+  add("results", {"Risultati", "Results"}, result_blocks(project, job, outcome, drawn));
+  OrderedJson section = OrderedJson::array();
+  section.push_back(drawing_block("section",
+                                  {"In scala; quote in metri dalla testa della paratia.",
+                                   "To scale; levels in metres from the head of the wall."},
+                                  section_drawing(project, job, outcome)));
+  add("section-chapter", {"Sezione", "Section"}, std::move(section));
+  add("input", {"Dati", "Data"}, input_blocks(project));
+  add("details", {"Combinazioni", "Combinations"},
+      combination_blocks(project, job, outcome, drawn));
+  add("wall", {"Armatura della paratia", "Reinforcement of the wall"},
+      reinforcement_blocks(project, outcome, drawn));
+  add("stability", {"Stabilità globale", "Global stability"}, stability_blocks(outcome, drawn));
+  add("conventions", {"Convenzioni", "Conventions"}, convention_blocks(project));
+
+  OrderedJson plots = OrderedJson::object();
+  for (const Figure& figure : drawn) {
+    plots[figure.id] = {{"caption", figure.caption}, {"wide", figure.wide}, {"plot", figure.plot}};
+  }
+  return {{"language", code_of(language)},
+          {"name", project.name},
+          {"description", project.description},
+          {"program", program()},
+          {"chapters", std::move(chapters)},
+          {"figures", std::move(plots)}};
+}
+
+std::string report_page(const Project& project, const Job& job, const Outcome& outcome,
+                        Language language) {
+  const ReportFiles& files = report_files();
+  std::string plotly;
+  if (!files.plotly.empty()) {
+    plotly = "/*\n" + std::string(files.plotly_licence) + "*/\n" + std::string(files.plotly);
+  }
+  return filled(files.page,
+                {{"language", code_of(language)},
+                 {"program", escaped(program())},
+                 {"title", escaped(project.name)},
+                 {"style", std::string(files.style)},
+                 {"data", data_text(report_data(project, job, outcome, language))},
+                 {"plotly", std::move(plotly)},
+                 {"script", std::string(files.script)}});
+}
+
+}  // namespace ostrel::host

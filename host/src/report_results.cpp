@@ -1,0 +1,260 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "report_results.h"
+
+#include "report_block.h"
+#include "report_input.h"
+#include "summary.h"
+#include "units.h"
+#include "wall_section_drawing.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <utility>
+
+namespace ostrel::host {
+
+namespace {
+
+// Those of one combination but for the slip circles, which have a chapter of their own.
+std::vector<std::string> ids_of(const std::vector<Figure>& figures, int combination) {
+  std::vector<std::string> ids;
+  for (const Figure& figure : figures) {
+    const bool along = !figure.wide && !figure.id.ends_with("-bars")
+                    && !figure.id.ends_with("-stirrups");
+    if (figure.combination == combination && along) ids.push_back(figure.id);
+  }
+  return ids;
+}
+
+std::vector<std::string> ids_ending(const std::vector<Figure>& figures,
+                                    const std::vector<std::string>& ends) {
+  std::vector<std::string> ids;
+  for (const Figure& figure : figures) {
+    for (const std::string& end : ends) {
+      if (figure.id.ends_with(end)) ids.push_back(figure.id);
+    }
+  }
+  return ids;
+}
+
+const xCombResults* result_of(const Outcome& outcome, std::size_t place) {
+  for (const xCombResults& result : outcome.results.combResults) {
+    if (result.getcombIndex() == static_cast<int>(place) + 1) return &result;
+  }
+  return nullptr;
+}
+
+std::string name_of_anchor(const Project& project, std::size_t place) {
+  const bool named = place < project.anchors.size() && !project.anchors[place].name.empty();
+  return named ? project.anchors[place].name : fmt::format("{}", place + 1);
+}
+
+OrderedJson extreme_table(const Summary& summary) {
+  ReportTable table(fmt::format("extremes-{:02}", summary.index),
+                    {"Valori massimi", "Largest values"},
+                    {{{"Grandezza", "Quantity"}},
+                     {{"Valore", "Value"}, "", 1},
+                     {{"Unità", "Unit"}},
+                     {{"Profondità", "Depth"}, "m", 2}});
+  const auto row = [&](const Both& name, const Extreme& extreme, const char* unit) {
+    table.add({name, extreme.value, unit, extreme.depth_m});
+  };
+  row({"Momento flettente", "Bending moment"}, summary.moment_kNm, "kNm");
+  row({"Taglio", "Shear"}, summary.shear_kN, "kN");
+  row({"Sforzo normale (trazione positiva)", "Axial force (tension positive)"}, summary.axial_kN,
+      "kN");
+  row({"Spostamento (positivo verso lo scavo)", "Displacement (positive towards the excavation)"},
+      summary.displacement_mm, "mm");
+  row({"Molla più sfruttata", "Most used soil spring"},
+      {.value = 100.0 * summary.spring_use.value, .depth_m = summary.spring_use.depth_m}, "%");
+  table.add({Both{"Resistenza del terreno mobilitata", "Soil resistance mobilised"},
+             100.0 * summary.mobilised, "%", OrderedJson()});
+  return table.block();
+}
+
+OrderedJson anchor_force_table(const Project& project, const Summary& summary) {
+  ReportTable table(fmt::format("anchor-forces-{:02}", summary.index),
+                    {"Tiranti, forza in uno", "Anchors, force in one"},
+                    {{{"Tirante", "Anchor"}},
+                     {{"Profondità", "Depth"}, "m", 2},
+                     {{"Forza", "Force"}, "kN", 1}});
+  for (std::size_t i = 0; i < summary.anchors.size(); ++i) {
+    table.add({name_of_anchor(project, i), summary.anchors[i].depth_m,
+               summary.anchors[i].force_kN});
+  }
+  return table.block();
+}
+
+OrderedJson support_force_table(const Summary& summary) {
+  const auto part = [](const std::optional<double>& value) {
+    return value ? OrderedJson(*value) : OrderedJson();
+  };
+  ReportTable table(fmt::format("support-forces-{:02}", summary.index),
+                    {"Appoggi, forze sulla paratia", "Supports, forces on the wall"},
+                    {{{"Profondità", "Depth"}, "m", 2},
+                     {{"Orizzontale", "Horizontal"}, "kN", 1},
+                     {{"Verticale", "Vertical"}, "kN", 1},
+                     {{"Momento", "Moment"}, "kNm", 1}});
+  for (const SupportState& support : summary.supports) {
+    table.add({support.depth_m, part(support.horizontal_kN), part(support.vertical_kN),
+               part(support.moment_kNm)});
+  }
+  return table.block();
+}
+
+// What the reinforcement at one depth is called; equal texts are equal reinforcement.
+struct Bars {
+  std::string uphill;
+  std::string valley;
+  std::string stirrups;
+
+  bool operator==(const Bars&) const = default;
+};
+
+Bars bars_of(const xReinfCrossSection& section) {
+  Bars bars;
+  section.getBarString("Ø", bars.uphill, bars.valley);
+  const xBracket& bracket = section.getBracket();
+  bars.stirrups = fmt::format("Ø{:g} / {:g} mm, {}", bracket.getDiameter(), bracket.getStep(),
+                              bracket.getNArms());
+  return bars;
+}
+
+OrderedJson stretch_table(const xReinforcement& reinforcement, bool rectangle) {
+  std::vector<ReportColumn> columns{{{"Da", "From"}, "m", 2}, {{"a", "to"}, "m", 2}};
+  if (rectangle) {
+    columns.push_back({{"Lato terra", "Retained side"}});
+    columns.push_back({{"Lato scavo", "Excavation side"}});
+  } else {
+    columns.push_back({{"Barre", "Bars"}});
+  }
+  columns.push_back({{"Area totale", "Total area"}, "cm²", 2});
+  columns.push_back({{"Staffe, bracci", "Stirrups, legs"}});
+  ReportTable table("reinforcement",
+                    {"Armatura lungo la paratia, dalla testa",
+                     "Reinforcement along the wall, from the head"},
+                    std::move(columns));
+  const auto& sections = reinforcement.sections;
+  for (std::size_t first = 0; first < sections.size();) {
+    const Bars bars = bars_of(*sections[first]);
+    std::size_t next = first + 1;
+    while (next < sections.size() && bars_of(*sections[next]) == bars)
+      ++next;
+    const double end = m_of_mm(sections[std::min(next, sections.size() - 1)]->getAbscissa());
+    std::vector<OrderedJson> cells{m_of_mm(sections[first]->getAbscissa()), end, bars.uphill};
+    if (rectangle) cells.emplace_back(bars.valley);
+    cells.emplace_back(cm2_of_mm2(sections[first]->Atot()));
+    cells.emplace_back(bars.stirrups);
+    table.add(std::move(cells));
+    first = next;
+  }
+  return table.block();
+}
+
+}  // namespace
+
+OrderedJson overview_blocks(const Project& project, const Job& job, const Outcome& outcome,
+                            const std::vector<Figure>& figures) {
+  ReportTable table("overview",
+                    {"Valori massimi di ogni combinazione", "Largest values of each combination"},
+                    {{{"Combinazione", "Combination"}},
+                     {{"Tipo", "Type"}},
+                     {{"Momento", "Moment"}, "kNm", 1},
+                     {{"Taglio", "Shear"}, "kN", 1},
+                     {{"Sforzo normale", "Axial force"}, "kN", 1},
+                     {{"Spostamento", "Displacement"}, "mm", 1},
+                     {{"in testa", "at the head"}, "mm", 1},
+                     {{"a fondo scavo", "at the excavation"}, "mm", 1},
+                     {{"Molla più sfruttata", "Most used spring"}, "%", 1},
+                     {{"Molle al limite", "Springs at their limit"}}});
+  for (std::size_t i = 0; i < project.combinations.size(); ++i) {
+    const CombinationInput& input = project.combinations[i];
+    const xCombResults* result = result_of(outcome, i);
+    if (result == nullptr) {
+      table.add({input.name, name_of(input.kind), OrderedJson(), OrderedJson(), OrderedJson(),
+                 OrderedJson(), OrderedJson(), OrderedJson(), OrderedJson(),
+                 Both{"nessun risultato", "no result"}});
+      continue;
+    }
+    const Summary summary = summary_of(job, outcome, *result);
+    table.add({input.name, name_of(input.kind), summary.moment_kNm.value, summary.shear_kN.value,
+               summary.axial_kN.value, summary.displacement_mm.value, summary.head_displacement_mm,
+               summary.excavation_displacement_mm, 100.0 * summary.spring_use.value,
+               fmt::format("{} / {}", summary.yielding, summary.springs.size())});
+  }
+  OrderedJson blocks = OrderedJson::array();
+  blocks.push_back(table.block());
+  const std::vector<std::string> ids = ids_of(figures, 0);
+  if (!ids.empty()) blocks.push_back(figures_block(ids));
+  return blocks;
+}
+
+OrderedJson combination_blocks(const Project& project, const Job& job, const Outcome& outcome,
+                               const std::vector<Figure>& figures) {
+  OrderedJson blocks = OrderedJson::array();
+  for (std::size_t i = 0; i < project.combinations.size(); ++i) {
+    const CombinationInput& input = project.combinations[i];
+    const Both& kind = name_of(input.kind);
+    const std::string title = fmt::format("{}. {}", i + 1, input.name);
+    blocks.push_back(heading_block(fmt::format("combination-{:02}", i + 1),
+                                   {title + " · " + kind.italian, title + " · " + kind.english}));
+    const xCombResults* result = result_of(outcome, i);
+    if (result == nullptr) {
+      blocks.push_back(note_block({"Nessun risultato: vedere i messaggi.",
+                                   "No result: see the messages."}));
+      continue;
+    }
+    const Summary summary = summary_of(job, outcome, *result);
+    blocks.push_back(extreme_table(summary));
+    if (!summary.anchors.empty()) blocks.push_back(anchor_force_table(project, summary));
+    if (!summary.supports.empty()) blocks.push_back(support_force_table(summary));
+    blocks.push_back(figures_block(ids_of(figures, summary.index)));
+  }
+  return blocks;
+}
+
+OrderedJson reinforcement_blocks(const Project& project, const Outcome& outcome,
+                                 const std::vector<Figure>& figures) {
+  OrderedJson blocks = OrderedJson::array();
+  const xReinforcement& reinforcement = outcome.ultimate.structuralDesign.checkedReinforcement;
+  if (reinforcement.sections.empty() || !project.wall.reinforcement) return blocks;
+  const auto heaviest = std::max_element(
+      reinforcement.sections.begin(), reinforcement.sections.end(),
+      [](const auto& a, const auto& b) { return a->Atot() < b->Atot(); });
+  const double depth = m_of_mm((*heaviest)->getAbscissa());
+  blocks.push_back(drawing_block(
+      "wall-section",
+      {fmt::format("Sezione più armata, a {:.2f} m dalla testa.", depth),
+       fmt::format("The section with most reinforcement, {:.2f} m below the head.", depth)},
+      wall_section_drawing(project.wall, *project.wall.reinforcement, **heaviest)));
+  blocks.push_back(stretch_table(reinforcement, project.wall.is_diaphragm));
+  blocks.push_back(figures_block(ids_ending(figures, {"-bars", "-stirrups"})));
+  return blocks;
+}
+
+OrderedJson stability_blocks(const Outcome& outcome, const std::vector<Figure>& figures) {
+  OrderedJson blocks = OrderedJson::array();
+  ReportTable table("slip-circles", {"Cerchi critici", "Governing circles"},
+                    {{{"Combinazione", "Combination"}},
+                     {{"F", "F"}, "", 3},
+                     {{"x centro", "x of centre"}, "m", 2},
+                     {{"y centro", "y of centre"}, "m", 2},
+                     {{"Raggio", "Radius"}, "m", 2},
+                     {{"M stabilizzante", "Stabilising M"}, "kNm", 0},
+                     {{"M instabilizzante", "Destabilising M"}, "kNm", 0},
+                     {{"Esito", "Outcome"}}});
+  for (const xSlopeStability& result : slope_results(outcome)) {
+    table.add({result.getCombName(), result.getSf(), m_of_mm(result.getXC()),
+               m_of_mm(result.getYC()), m_of_mm(result.getRadius()), knm_of_nmm(result.getMstab()),
+               knm_of_nmm(result.getMdestab()), verdict_cell(result.getSf() >= 1.0)});
+  }
+  if (table.empty()) return blocks;
+  blocks.push_back(table.block());
+  blocks.push_back(figures_block(ids_ending(figures, {"-slip-circles"})));
+  return blocks;
+}
+
+}  // namespace ostrel::host

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "figures.h"
+
+#include "host_testing.h"
+#include "plot.h"
+#include "project_conversion.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <limits>
+
+namespace ostrel::host {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::Not;
+using Json = nlohmann::json;
+
+TEST(InLanguage, PutsOneTextInThePlaceOfBoth) {
+  const OrderedJson value = {{"a", Both{"uno", "one"}}, {"b", {1, Both{"due", "two"}}}, {"c", "x"}};
+  EXPECT_EQ(in_language(value, Language::italian),
+            OrderedJson({{"a", "uno"}, {"b", {1, "due"}}, {"c", "x"}}));
+  EXPECT_EQ(in_language(value, Language::english),
+            OrderedJson({{"a", "one"}, {"b", {1, "two"}}, {"c", "x"}}));
+}
+
+TEST(Profile, LeavesAGapWhereAValueIsNotFinite) {
+  Line line;
+  line.add(1.0, 0.0);
+  line.add(std::nan(""), 1.0);
+  line.add(std::numeric_limits<double>::infinity(), 2.0);
+  const OrderedJson trace = profile(line, same("q"), "kN", 1, {.colour = "#000000"});
+  EXPECT_EQ(trace["x"], OrderedJson({1.0, nullptr, nullptr}));
+  EXPECT_EQ(trace["y"], OrderedJson({0.0, 1.0, 2.0}));
+  EXPECT_EQ(trace["hovertemplate"], "%{x:.1f} kN");
+}
+
+TEST(ProfileLayout, ShowsTheWholeWallWithDepthDownwards) {
+  const OrderedJson layout = profile_layout(
+      {.quantity = {"Taglio", "Shear"}, .unit = "kN", .wall_m = 10.0, .excavation_m = 4.0}, false);
+  // Two hundredths of the wall beyond both ends.
+  EXPECT_EQ(layout["yaxis"]["range"], OrderedJson({10.2, -0.2}));
+  EXPECT_EQ(layout["shapes"][0]["y0"], 4.0);
+  EXPECT_EQ(layout["xaxis"]["title"]["text"]["en"], "Shear [kN]");
+}
+
+class Figures : public ::testing::Test {
+protected:
+  void draw(const Json& json) {
+    project_ = project_of(json);
+    const Job job = to_job(project_);
+    outcome_ = analyse(job);
+    figures_ = figures(project_, job, outcome_);
+  }
+  std::vector<std::string> ids() const {
+    std::vector<std::string> ids;
+    for (const Figure& figure : figures_)
+      ids.push_back(figure.id);
+    return ids;
+  }
+  OrderedJson plot(const std::string& id) const {
+    for (const Figure& figure : figures_) {
+      if (figure.id == id) return figure.plot;
+    }
+    return {};
+  }
+
+  Project project_;
+  Outcome outcome_;
+  std::vector<Figure> figures_;
+};
+
+TEST_F(Figures, OfOneCombinationStandAlone) {
+  draw(sound_project());
+  EXPECT_THAT(ids(), ElementsAre("01-pressures", "01-displacement", "01-moment", "01-shear",
+                                 "01-axial", "01-reaction"));
+}
+
+TEST_F(Figures, OfSeveralCombinationsAreAlsoDrawnTogether) {
+  Json project = sound_project();
+  project["combinations"].push_back({{"name", "Second"}, {"type", "rare"}});
+  draw(project);
+  EXPECT_THAT(ids(), Contains("all-moment"));
+  EXPECT_THAT(ids(), Contains("02-moment"));
+  const OrderedJson together = plot("all-moment");
+  ASSERT_EQ(together["data"].size(), 2U);
+  EXPECT_EQ(together["data"][0]["name"]["it"], "C");
+  EXPECT_EQ(together["data"][1]["name"]["en"], "Second");
+}
+
+// Displacements are turned towards the excavation, moments go from Nmm to kNm.
+TEST_F(Figures, HoldTheDiagramsInEngineeringUnits) {
+  draw(sound_project());
+  const xFemResults& results = outcome_.results.combResults.at(0).femResults;
+  const OrderedJson moment = plot("01-moment")["data"][0];
+  ASSERT_EQ(moment["x"].size(), results.moment.points.size());
+  EXPECT_DOUBLE_EQ(moment["x"][7].get<double>(), results.moment.points[7].value / 1e6);
+  EXPECT_DOUBLE_EQ(moment["y"][7].get<double>(), results.moment.points[7].s / 1e3);
+  const OrderedJson displacement = plot("01-displacement")["data"][0];
+  EXPECT_DOUBLE_EQ(displacement["x"][0].get<double>(), -results.dispTrans.points[0].value);
+}
+
+// Piles every 2 m: a force of 1 kN on each metre of a pile is a pressure of 0.5 kPa.
+TEST_F(Figures, ShowThePressureOverTheWholeDistanceBetweenAxes) {
+  draw(with("/wall/spacing_m", 2.0));
+  const xLayerPress& diagram = outcome_.results.combResults.at(0).earthPress.diagrams.at(0);
+  const OrderedJson earth = plot("01-pressures")["data"][0];
+  EXPECT_DOUBLE_EQ(earth["x"][1].get<double>(), diagram.points.at(1).value / 2.0);
+}
+
+TEST_F(Figures, ShowTheLimitOfTheSoilOnBothSides) {
+  draw(sound_project());
+  const OrderedJson data = plot("01-reaction")["data"];
+  ASSERT_EQ(data.size(), 3U);
+  const double limit = data[0]["x"][3].get<double>();
+  EXPECT_GT(limit, 0.0);
+  EXPECT_DOUBLE_EQ(data[1]["x"][3].get<double>(), -limit);
+}
+
+TEST_F(Figures, AreNotThereForACombinationWithoutResult) {
+  Json project = sound_project();
+  project["calculation"]["max_iterations"] = 1;
+  project["calculation"]["tolerance_mm"] = 1e-9;
+  draw(project);
+  if (outcome_.results.combResults.empty()) EXPECT_THAT(ids(), Not(Contains("01-moment")));
+}
+
+}  // namespace
+}  // namespace ostrel::host
