@@ -8,8 +8,8 @@ void to_json(OrderedJson& json, const Both& text) {
 }
 
 OrderedJson in_language(const OrderedJson& value, Language language) {
-  const bool both = value.is_object() && value.size() == 2 && value.contains("it")
-                 && value.contains("en");
+  const bool both =
+      value.is_object() && value.size() == 2 && value.contains("it") && value.contains("en");
   if (both) return value[code_of(language)];
   OrderedJson copy = value;
   if (copy.is_structured()) {

@@ -27,7 +27,6 @@ bool may_write_report(const std::string& file, const Texts& texts, std::ostream&
 
 /// Writes the report, or nothing for an empty name. @return false where it could not be written
 bool write_report(const std::string& file, const Project& project, const Job& job,
-                  const Outcome& outcome, const Texts& texts, std::ostream& out,
-                  std::ostream& err);
+                  const Outcome& outcome, const Texts& texts, std::ostream& out, std::ostream& err);
 
 }  // namespace ostrel::host

@@ -70,7 +70,8 @@ int run_project(const RunOptions& options, std::ostream& out, std::ostream& err)
   const RunData data = run_data_of(*project, job, outcome);
   const int status = print_run(data, options.fail_below, options.texts, out, err);
   if (to_files) {
-    if (!write_files(options, result_files(*project, job, outcome, options.texts.language()), err)) return exit_bad_input;
+    if (!write_files(options, result_files(*project, job, outcome, options.texts.language()), err))
+      return exit_bad_input;
     out << "\n" << options.texts(Text::written_to, options.folder) << "\n";
   }
   if (to_save) {

@@ -40,12 +40,28 @@ struct Quantity {
 
 const std::vector<Quantity>& quantities() {
   static const std::vector<Quantity> list{
-      {"displacement", displacement_name, "mm", 2, &xFemResults::dispTrans, -1.0,
+      {"displacement",
+       displacement_name,
+       "mm",
+       2,
+       &xFemResults::dispTrans,
+       -1.0,
        {"Positivo verso lo scavo.", "Positive towards the excavation."}},
-      {"moment", moment_name, "kNm", 1, &xFemResults::moment, knm_of_nmm(1.0),
-       {"Positivo se tende il lato dello scavo.", "Positive where it stretches the excavation side."}},
+      {"moment",
+       moment_name,
+       "kNm",
+       1,
+       &xFemResults::moment,
+       knm_of_nmm(1.0),
+       {"Positivo se tende il lato dello scavo.",
+        "Positive where it stretches the excavation side."}},
       {"shear", shear_name, "kN", 1, &xFemResults::shear, kn_of_n(1.0), {"", ""}},
-      {"axial", axial_name, "kN", 1, &xFemResults::axial, kn_of_n(1.0),
+      {"axial",
+       axial_name,
+       "kN",
+       1,
+       &xFemResults::axial,
+       kn_of_n(1.0),
        {"Trazione positiva.", "Tension positive."}}};
   return list;
 }
@@ -127,8 +143,8 @@ private:
     add(combination.getcombIndex(), quantity.subject,
         {quantity.name.italian + ". " + quantity.sign.italian,
          quantity.name.english + ". " + quantity.sign.english},
-        {profile(line, quantity.name, quantity.unit, quantity.digits,
-                 {.colour = colour, .filled = true})},
+        OrderedJson::array({profile(line, quantity.name, quantity.unit, quantity.digits,
+                                    {.colour = colour, .filled = true})}),
         profile_layout(frame(quantity.name, quantity.unit), false));
   }
 
@@ -232,19 +248,22 @@ private:
       stirrups.add(cm2_m_of_mm2_mm(section->getBracket().AswForStep()), depth);
     }
     const bool one_ring = retained.x.empty();
-    OrderedJson data = {profile(excavation,
-                                one_ring ? Both{"Barre, tutte", "Bars, all of them"}
-                                         : Both{"Lato scavo", "Excavation side"},
-                                "cm²", 2, {.colour = colour_of(1)})};
+    OrderedJson data = OrderedJson::array();
+    data.push_back(profile(excavation,
+                           one_ring ? Both{"Barre, tutte", "Bars, all of them"}
+                                    : Both{"Lato scavo", "Excavation side"},
+                           "cm²", 2, {.colour = colour_of(1)}));
     if (!one_ring) {
       data.push_back(profile(retained, {"Lato terra", "Retained side"}, "cm²", 2,
                              {.colour = colour_of(0), .dash = "dash"}));
     }
-    add(0, "bars", {"Armatura longitudinale lungo la paratia.", "Longitudinal bars along the wall."},
+    add(0, "bars",
+        {"Armatura longitudinale lungo la paratia.", "Longitudinal bars along the wall."},
         std::move(data), profile_layout(frame({"Area", "Area"}, "cm²"), true));
-    add(0, "stirrups", {"Staffe lungo la paratia, tutti i bracci.",
-                        "Stirrups along the wall, all legs."},
-        {profile(stirrups, {"Staffe", "Stirrups"}, "cm²/m", 2, {.colour = colour_of(2)})},
+    add(0, "stirrups",
+        {"Staffe lungo la paratia, tutti i bracci.", "Stirrups along the wall, all legs."},
+        OrderedJson::array(
+            {profile(stirrups, {"Staffe", "Stirrups"}, "cm²/m", 2, {.colour = colour_of(2)})}),
         profile_layout(frame({"Area per lunghezza", "Area by length"}, "cm²/m"), false));
   }
 

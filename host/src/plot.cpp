@@ -76,14 +76,15 @@ OrderedJson profile_layout(const ProfileFrame& frame, bool legend) {
   layout["yaxis"]["zeroline"] = false;
   layout["yaxis"]["hoverformat"] = ".2f";
   layout["hovermode"] = "y unified";
-  layout["shapes"] = {{{"type", "line"},
-                       {"xref", "paper"},
-                       {"x0", 0},
-                       {"x1", 1},
-                       {"y0", frame.excavation_m},
-                       {"y1", frame.excavation_m},
-                       {"layer", "below"},
-                       {"line", {{"color", "#9a6b3f"}, {"width", 1}, {"dash", "dash"}}}}};
+  layout["shapes"] = OrderedJson::array();
+  layout["shapes"].push_back({{"type", "line"},
+                              {"xref", "paper"},
+                              {"x0", 0},
+                              {"x1", 1},
+                              {"y0", frame.excavation_m},
+                              {"y1", frame.excavation_m},
+                              {"layer", "below"},
+                              {"line", {{"color", "#9a6b3f"}, {"width", 1}, {"dash", "dash"}}}});
   layout["showlegend"] = legend;
   if (legend) {
     layout["legend"] = {{"orientation", "h"}, {"x", 0}, {"y", 1.02}, {"yanchor", "bottom"}};

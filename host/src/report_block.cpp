@@ -29,8 +29,7 @@ void ReportTable::add(std::vector<OrderedJson> cells) {
 OrderedJson ReportTable::block() const {
   OrderedJson columns = OrderedJson::array();
   for (const ReportColumn& column : columns_) {
-    columns.push_back(
-        {{"label", column.label}, {"unit", column.unit}, {"digits", column.digits}});
+    columns.push_back({{"label", column.label}, {"unit", column.unit}, {"digits", column.digits}});
   }
   return {{"kind", "table"},
           {"id", id_},
@@ -41,8 +40,7 @@ OrderedJson ReportTable::block() const {
 
 void ReportFacts::add(const Both& label, const OrderedJson& value, const std::string& unit,
                       int digits) {
-  rows_.push_back(
-      {{"label", label}, {"value", cell(value)}, {"unit", unit}, {"digits", digits}});
+  rows_.push_back({{"label", label}, {"value", cell(value)}, {"unit", unit}, {"digits", digits}});
 }
 
 OrderedJson ReportFacts::block() const {

@@ -60,9 +60,8 @@ OrderedJson wall_facts(const Project& project) {
 }
 
 OrderedJson bearing_facts(const PileBearingInput& bearing) {
-  static const std::array<Both, 3> technologies{{{"infissi", "driven"},
-                                                 {"trivellati", "bored"},
-                                                 {"a elica continua", "augered"}}};
+  static const std::array<Both, 3> technologies{
+      {{"infissi", "driven"}, {"trivellati", "bored"}, {"a elica continua", "augered"}}};
   ReportFacts facts({"Capacità portante verticale", "Vertical bearing"});
   facts.add({"Tecnologia", "Technology"}, entry(technologies, bearing.technology));
   facts.add({"Efficienza del gruppo", "Efficiency of the group"}, bearing.group_efficiency);
@@ -131,8 +130,8 @@ OrderedJson layer_table(const Project& project) {
   for (std::size_t i = 0; i < layers.size(); ++i) {
     const double bottom =
         i + 1 < layers.size() ? layers[i + 1].top_level_m : project.ground.bottom_level_m;
-    table.add({name_of_soil(layers[i]), layers[i].top_level_m, bottom,
-               layers[i].top_level_m - bottom});
+    table.add(
+        {name_of_soil(layers[i]), layers[i].top_level_m, bottom, layers[i].top_level_m - bottom});
   }
   return table.block();
 }
@@ -204,8 +203,7 @@ OrderedJson spring_table(const Project& project) {
                      {{"Fattore di rigidezza", "Stiffness factor"}, "", given}});
   for (const SpringIntervalInput& interval : project.spring_intervals) {
     table.add({interval.start, interval.end,
-               entry(limits, static_cast<std::size_t>(interval.limit)),
-               interval.stiffness_factor});
+               entry(limits, static_cast<std::size_t>(interval.limit)), interval.stiffness_factor});
   }
   return table.block();
 }
@@ -301,9 +299,8 @@ OrderedJson action_table(const Project& project) {
   row({"Spinta del terreno", "Earth pressure"}, [](const auto& c) { return &c.earth_pressure; });
   row({"Spinta dell'acqua", "Water pressure"}, [](const auto& c) { return &c.water_pressure; });
   for (std::size_t i = 0; i < project.loads.size(); ++i) {
-    row(same(project.loads[i].name), [i](const CombinationInput& c) {
-      return i < c.loads.size() ? &c.loads[i] : nullptr;
-    });
+    row(same(project.loads[i].name),
+        [i](const CombinationInput& c) { return i < c.loads.size() ? &c.loads[i] : nullptr; });
   }
   return table.block();
 }
@@ -331,16 +328,16 @@ OrderedJson soil_factor_table(const Project& project) {
 }
 
 OrderedJson resistance_factor_table(const Project& project) {
-  static const std::array<Both, 8> names{
-      {{"Terreno a valle", "Soil in front"},
-       {"Stabilità globale", "Global stability"},
-       {"Base dei pali", "Pile base"},
-       {"Fusto, compressione", "Pile shaft, compression"},
-       {"Fusto, trazione", "Pile shaft, tension"},
-       {"Tiranti", "Anchors"},
-       {"Sifonamento", "Piping"},
-       {"Sollevamento", "Uplift"}}};
-  ReportTable table("resistance-factors", {"Coefficienti sulle resistenze", "Factors on resistances"},
+  static const std::array<Both, 8> names{{{"Terreno a valle", "Soil in front"},
+                                          {"Stabilità globale", "Global stability"},
+                                          {"Base dei pali", "Pile base"},
+                                          {"Fusto, compressione", "Pile shaft, compression"},
+                                          {"Fusto, trazione", "Pile shaft, tension"},
+                                          {"Tiranti", "Anchors"},
+                                          {"Sifonamento", "Piping"},
+                                          {"Sollevamento", "Uplift"}}};
+  ReportTable table("resistance-factors",
+                    {"Coefficienti sulle resistenze", "Factors on resistances"},
                     by_combination(project, {"Resistenza", "Resistance"}, given));
   for (std::size_t i = 0; i < names.size(); ++i) {
     std::vector<OrderedJson> cells{names[i]};
@@ -384,7 +381,8 @@ void add_stirrups(const StirrupsInput& stirrups, ReportFacts& facts) {
 
 OrderedJson material_facts(const ReinforcementInput& input) {
   ReportFacts facts({"Calcestruzzo e acciaio", "Concrete and steel"});
-  facts.add({"Resistenza cubica Rck", "Cube strength Rck"}, input.concrete.cube_strength_MPa, "MPa");
+  facts.add({"Resistenza cubica Rck", "Cube strength Rck"}, input.concrete.cube_strength_MPa,
+            "MPa");
   facts.add(same("αcc"), input.concrete.alpha_cc);
   facts.add(same("γc"), input.concrete.partial_factor);
   facts.add(same("εc2"), input.concrete.strain_at_peak);
@@ -464,17 +462,16 @@ const Both& name_of(pCombinationTypes kind) {
 }
 
 const Both& name_of(pCheckTypes check) {
-  static const std::array<Both, 10> names{
-      {{"Moto rigido", "Rigid body motion"},
-       {"Carico limite verticale", "Vertical bearing"},
-       {"Sfilamento dei tiranti", "Pull-out of the anchors"},
-       {"Stabilità globale", "Global stability"},
-       {"Resistenza dei tiranti", "Strength of the anchors"},
-       {"Resistenza della paratia", "Strength of the wall"},
-       {"Trave di coronamento", "Cap beam"},
-       {"Sifonamento", "Piping"},
-       {"Sollevamento", "Uplift"},
-       {"Spostamenti", "Displacements"}}};
+  static const std::array<Both, 10> names{{{"Moto rigido", "Rigid body motion"},
+                                           {"Carico limite verticale", "Vertical bearing"},
+                                           {"Sfilamento dei tiranti", "Pull-out of the anchors"},
+                                           {"Stabilità globale", "Global stability"},
+                                           {"Resistenza dei tiranti", "Strength of the anchors"},
+                                           {"Resistenza della paratia", "Strength of the wall"},
+                                           {"Trave di coronamento", "Cap beam"},
+                                           {"Sifonamento", "Piping"},
+                                           {"Sollevamento", "Uplift"},
+                                           {"Spostamenti", "Displacements"}}};
   return entry(names, static_cast<std::size_t>(check));
 }
 

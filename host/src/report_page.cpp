@@ -61,8 +61,12 @@ OrderedJson message_block(const Outcome& outcome) {
   for (const xVeldError& message : outcome.messages) {
     const bool is_error = message.getErr() == veldError;
     const bool is_warning = message.getErr() == veldWarning;
-    items.push_back({{"severity", is_error ? "error" : is_warning ? "warning" : "remark"},
-                     {"label", is_error ? error : is_warning ? warning : remark},
+    items.push_back({{"severity", is_error     ? "error"
+                                  : is_warning ? "warning"
+                                               : "remark"},
+                     {"label", is_error     ? error
+                               : is_warning ? warning
+                                            : remark},
                      {"text", message.GetErrorStr()}});
   }
   return {{"kind", "messages"}, {"items", std::move(items)}};
@@ -85,28 +89,31 @@ OrderedJson convention_blocks(const Project& project) {
   OrderedJson blocks = OrderedJson::array();
   const double width = project.wall.spacing_m;
   if (project.wall.is_diaphragm) {
-    blocks.push_back(note_block(
-        {fmt::format("Le forze sono quelle di un pannello, {:.2f} m di paratia.", width),
-         fmt::format("Forces are those of one panel, {:.2f} m of wall.", width)}));
+    blocks.push_back(
+        note_block({fmt::format("Le forze sono quelle di un pannello, {:.2f} m di paratia.", width),
+                    fmt::format("Forces are those of one panel, {:.2f} m of wall.", width)}));
   } else {
     blocks.push_back(
         note_block({fmt::format("Le forze sono quelle di un palo, {:.2f} m di paratia.", width),
                     fmt::format("Forces are those of one pile, {:.2f} m of wall.", width)}));
   }
-  blocks.push_back(note_block({"Quote in metri dalla testa della paratia, positive verso l'alto; "
-                               "profondità dalla testa, positive verso il basso.",
-                               "Levels in metres from the head of the wall, positive upwards; depths "
-                               "from the head, positive downwards."}));
-  blocks.push_back(note_block({"Spostamenti e forze orizzontali positivi verso lo scavo; momenti "
-                               "positivi se tendono il lato dello scavo; trazione positiva.",
-                               "Displacements and horizontal forces count positive towards the "
-                               "excavation; moments where they stretch the excavation side; tension "
-                               "is positive."}));
-  blocks.push_back(note_block({"Pressioni e reazioni per unità di area della paratia, su tutto "
-                               "l'interasse. Un fattore di sicurezza di almeno 1 soddisfa la verifica.",
-                               "Pressures and reactions by area of wall, over the whole distance "
-                               "between axes. A safety factor of at least 1 satisfies a "
-                               "verification."}));
+  blocks.push_back(
+      note_block({"Quote in metri dalla testa della paratia, positive verso l'alto; "
+                  "profondità dalla testa, positive verso il basso.",
+                  "Levels in metres from the head of the wall, positive upwards; depths "
+                  "from the head, positive downwards."}));
+  blocks.push_back(
+      note_block({"Spostamenti e forze orizzontali positivi verso lo scavo; momenti "
+                  "positivi se tendono il lato dello scavo; trazione positiva.",
+                  "Displacements and horizontal forces count positive towards the "
+                  "excavation; moments where they stretch the excavation side; tension "
+                  "is positive."}));
+  blocks.push_back(
+      note_block({"Pressioni e reazioni per unità di area della paratia, su tutto "
+                  "l'interasse. Un fattore di sicurezza di almeno 1 soddisfa la verifica.",
+                  "Pressures and reactions by area of wall, over the whole distance "
+                  "between axes. A safety factor of at least 1 satisfies a "
+                  "verification."}));
   return blocks;
 }
 
@@ -139,12 +146,9 @@ OrderedJson report_data(const Project& project, const Job& job, const Outcome& o
   for (const Figure& figure : drawn) {
     plots[figure.id] = {{"caption", figure.caption}, {"wide", figure.wide}, {"plot", figure.plot}};
   }
-  return {{"language", code_of(language)},
-          {"name", project.name},
-          {"description", project.description},
-          {"program", program()},
-          {"chapters", std::move(chapters)},
-          {"figures", std::move(plots)}};
+  return {{"language", code_of(language)},      {"name", project.name},
+          {"description", project.description}, {"program", program()},
+          {"chapters", std::move(chapters)},    {"figures", std::move(plots)}};
 }
 
 std::string report_page(const Project& project, const Job& job, const Outcome& outcome,
@@ -154,14 +158,13 @@ std::string report_page(const Project& project, const Job& job, const Outcome& o
   if (!files.plotly.empty()) {
     plotly = "/*\n" + std::string(files.plotly_licence) + "*/\n" + std::string(files.plotly);
   }
-  return filled(files.page,
-                {{"language", code_of(language)},
-                 {"program", escaped(program())},
-                 {"title", escaped(project.name)},
-                 {"style", std::string(files.style)},
-                 {"data", data_text(report_data(project, job, outcome, language))},
-                 {"plotly", std::move(plotly)},
-                 {"script", std::string(files.script)}});
+  return filled(files.page, {{"language", code_of(language)},
+                             {"program", escaped(program())},
+                             {"title", escaped(project.name)},
+                             {"style", std::string(files.style)},
+                             {"data", data_text(report_data(project, job, outcome, language))},
+                             {"plotly", std::move(plotly)},
+                             {"script", std::string(files.script)}});
 }
 
 }  // namespace ostrel::host

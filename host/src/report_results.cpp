@@ -22,8 +22,8 @@ namespace {
 std::vector<std::string> ids_of(const std::vector<Figure>& figures, int combination) {
   std::vector<std::string> ids;
   for (const Figure& figure : figures) {
-    const bool along = !figure.wide && !figure.id.ends_with("-bars")
-                    && !figure.id.ends_with("-stirrups");
+    const bool along =
+        !figure.wide && !figure.id.ends_with("-bars") && !figure.id.ends_with("-stirrups");
     if (figure.combination == combination && along) ids.push_back(figure.id);
   }
   return ids;
@@ -76,14 +76,13 @@ OrderedJson extreme_table(const Summary& summary) {
 }
 
 OrderedJson anchor_force_table(const Project& project, const Summary& summary) {
-  ReportTable table(fmt::format("anchor-forces-{:02}", summary.index),
-                    {"Tiranti, forza in uno", "Anchors, force in one"},
-                    {{{"Tirante", "Anchor"}},
-                     {{"Profondità", "Depth"}, "m", 2},
-                     {{"Forza", "Force"}, "kN", 1}});
+  ReportTable table(
+      fmt::format("anchor-forces-{:02}", summary.index),
+      {"Tiranti, forza in uno", "Anchors, force in one"},
+      {{{"Tirante", "Anchor"}}, {{"Profondità", "Depth"}, "m", 2}, {{"Forza", "Force"}, "kN", 1}});
   for (std::size_t i = 0; i < summary.anchors.size(); ++i) {
-    table.add({name_of_anchor(project, i), summary.anchors[i].depth_m,
-               summary.anchors[i].force_kN});
+    table.add(
+        {name_of_anchor(project, i), summary.anchors[i].depth_m, summary.anchors[i].force_kN});
   }
   return table.block();
 }
@@ -133,10 +132,10 @@ OrderedJson stretch_table(const xReinforcement& reinforcement, bool rectangle) {
   }
   columns.push_back({{"Area totale", "Total area"}, "cm²", 2});
   columns.push_back({{"Staffe, bracci", "Stirrups, legs"}});
-  ReportTable table("reinforcement",
-                    {"Armatura lungo la paratia, dalla testa",
-                     "Reinforcement along the wall, from the head"},
-                    std::move(columns));
+  ReportTable table(
+      "reinforcement",
+      {"Armatura lungo la paratia, dalla testa", "Reinforcement along the wall, from the head"},
+      std::move(columns));
   const auto& sections = reinforcement.sections;
   for (std::size_t first = 0; first < sections.size();) {
     const Bars bars = bars_of(*sections[first]);
@@ -203,8 +202,8 @@ OrderedJson combination_blocks(const Project& project, const Job& job, const Out
                                    {title + " · " + kind.italian, title + " · " + kind.english}));
     const xCombResults* result = result_of(outcome, i);
     if (result == nullptr) {
-      blocks.push_back(note_block({"Nessun risultato: vedere i messaggi.",
-                                   "No result: see the messages."}));
+      blocks.push_back(
+          note_block({"Nessun risultato: vedere i messaggi.", "No result: see the messages."}));
       continue;
     }
     const Summary summary = summary_of(job, outcome, *result);
@@ -221,9 +220,9 @@ OrderedJson reinforcement_blocks(const Project& project, const Outcome& outcome,
   OrderedJson blocks = OrderedJson::array();
   const xReinforcement& reinforcement = outcome.ultimate.structuralDesign.checkedReinforcement;
   if (reinforcement.sections.empty() || !project.wall.reinforcement) return blocks;
-  const auto heaviest = std::max_element(
-      reinforcement.sections.begin(), reinforcement.sections.end(),
-      [](const auto& a, const auto& b) { return a->Atot() < b->Atot(); });
+  const auto heaviest =
+      std::max_element(reinforcement.sections.begin(), reinforcement.sections.end(),
+                       [](const auto& a, const auto& b) { return a->Atot() < b->Atot(); });
   const double depth = m_of_mm((*heaviest)->getAbscissa());
   blocks.push_back(drawing_block(
       "wall-section",

@@ -140,8 +140,8 @@ ResultFile figure_file(const Figure& figure, Language language) {
 
 }  // namespace
 
-std::vector<ResultFile> result_files(const Project& project, const Job& job,
-                                     const Outcome& outcome, Language language) {
+std::vector<ResultFile> result_files(const Project& project, const Job& job, const Outcome& outcome,
+                                     Language language) {
   std::vector<ResultFile> files{{"result.json", result_json(project, outcome)}};
   CsvTable summary_csv({"combination", "quantity", "value", "depth_m"});
   for (const xCombResults& combination : outcome.results.combResults) {

@@ -49,7 +49,8 @@ const xSlopeStability* worst_circle(const Outcome& outcome) {
   const xSlopeStability* worst = nullptr;
   for (const xSlopeStability& result : slope_results(outcome)) {
     const double factor = result.getSf();
-    if (factor < nothing_to_verify && (worst == nullptr || factor < worst->getSf())) worst = &result;
+    if (factor < nothing_to_verify && (worst == nullptr || factor < worst->getSf()))
+      worst = &result;
   }
   return worst;
 }
@@ -110,8 +111,8 @@ private:
     view.bottom = std::max(view.bottom, ground.bottom);
     view.top = std::max(0.0, ground.top);
     if (project_.water) {
-      view.top = std::max({view.top, project_.water->retained_level_m,
-                           project_.water->excavated_level_m});
+      view.top =
+          std::max({view.top, project_.water->retained_level_m, project_.water->excavated_level_m});
     }
     view.top += 0.02 * length;
     return view;
@@ -270,8 +271,8 @@ private:
       svg_.rectangle(at(-wall.cap_beam_width_m / 2.0, 0.0), wall.cap_beam_width_m * scale_,
                      wall.cap_beam_height_m * scale_, "concrete");
     }
-    svg_.line(at(window_.left, -project_.excavation_depth_m), at(-half, -project_.excavation_depth_m),
-              "surface");
+    svg_.line(at(window_.left, -project_.excavation_depth_m),
+              at(-half, -project_.excavation_depth_m), "surface");
   }
 
   void draw_anchors() {
@@ -385,8 +386,7 @@ private:
         if (std::abs(part.horizontal_kN) > 0.0)
           svg_.arrow({place.x + across, place.y}, place, "load");
         const double along = part.vertical_kN < 0.0 ? size : -size;
-        if (std::abs(part.vertical_kN) > 0.0)
-          svg_.arrow({place.x, place.y + along}, place, "load");
+        if (std::abs(part.vertical_kN) > 0.0) svg_.arrow({place.x, place.y + along}, place, "load");
         if (std::abs(part.moment_kNm) > 0.0) svg_.circle(place, 11.0, "load moment");
         svg_.text({place.x + size + 6.0, place.y - 6.0}, same(load.name + "  " + value_of(part)),
                   Hold::start, "load-text");
@@ -460,7 +460,7 @@ private:
   void draw_scale() {
     const double wanted = 0.2 * (window_.right - window_.left);
     const double decade = std::pow(10.0, std::floor(std::log10(wanted)));
-    const double length = wanted >= 5.0 * decade   ? 5.0 * decade
+    const double length = wanted >= 5.0 * decade ? 5.0 * decade
                         : wanted >= 2.0 * decade ? 2.0 * decade
                                                  : decade;
     const double y = at(0.0, window_.bottom).y + 16.0;
@@ -468,7 +468,8 @@ private:
     const double width = length * scale_;
     svg_.rectangle({x, y}, width / 2.0, 5.0, "scale-full");
     svg_.rectangle({x + width / 2.0, y}, width / 2.0, 5.0, "scale-empty");
-    svg_.text({x + width + 8.0, y + 8.0}, same(fmt::format("{:g} m", length)), Hold::start, "level");
+    svg_.text({x + width + 8.0, y + 8.0}, same(fmt::format("{:g} m", length)), Hold::start,
+              "level");
   }
 
   const Project& project_;

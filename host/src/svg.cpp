@@ -70,8 +70,9 @@ std::string escaped(const std::string& text) {
 }
 
 void Svg::line(Spot from, Spot to, const char* style) {
-  body_ += fmt::format("<line class=\"{}\" x1=\"{:.2f}\" y1=\"{:.2f}\" x2=\"{:.2f}\" y2=\"{:.2f}\"/>\n",
-                       style, from.x, from.y, to.x, to.y);
+  body_ +=
+      fmt::format("<line class=\"{}\" x1=\"{:.2f}\" y1=\"{:.2f}\" x2=\"{:.2f}\" y2=\"{:.2f}\"/>\n",
+                  style, from.x, from.y, to.x, to.y);
 }
 
 void Svg::path(const std::vector<Spot>& points, bool closed, const std::string& style) {
@@ -97,7 +98,8 @@ void Svg::arrow(Spot from, Spot to, const char* style) {
   const double x = (to.x - from.x) / length;
   const double y = (to.y - from.y) / length;
   const Spot base{to.x - head_length * x, to.y - head_length * y};
-  path({to, {base.x - head_width * y, base.y + head_width * x},
+  path({to,
+        {base.x - head_width * y, base.y + head_width * x},
         {base.x + head_width * y, base.y - head_width * x}},
        true, std::string(style) + " head");
 }
@@ -116,15 +118,15 @@ void Svg::dimension(Spot from, Spot to, const Both& words) {
 
 void Svg::text(Spot at, const Both& words, Hold hold, const char* style) {
   static constexpr std::array<const char*, 3> names{"start", "middle", "end"};
-  write_text(at, words,
-             fmt::format("text-anchor=\"{}\"", names[static_cast<std::size_t>(hold)]), style);
+  write_text(at, words, fmt::format("text-anchor=\"{}\"", names[static_cast<std::size_t>(hold)]),
+             style);
 }
 
 void Svg::upright_text(Spot at, const Both& words, const char* style) {
-  write_text(at, words,
-             fmt::format("text-anchor=\"middle\" transform=\"rotate(-90 {:.2f} {:.2f})\"", at.x,
-                         at.y),
-             style);
+  write_text(
+      at, words,
+      fmt::format("text-anchor=\"middle\" transform=\"rotate(-90 {:.2f} {:.2f})\"", at.x, at.y),
+      style);
 }
 
 void Svg::write_text(Spot at, const Both& words, const std::string& attributes, const char* style) {
@@ -155,9 +157,8 @@ void Svg::begin_clip(const std::string& id, Spot corner, double width, double he
 }
 
 std::string Svg::markup(const Both& title) const {
-  return fmt::format(
-             "<svg viewBox=\"0 0 {:.0f} {:.0f}\" role=\"img\" aria-label=\"{}\">\n", width_, height_,
-             escaped(title.english))
+  return fmt::format("<svg viewBox=\"0 0 {:.0f} {:.0f}\" role=\"img\" aria-label=\"{}\">\n", width_,
+                     height_, escaped(title.english))
        + body_ + "</svg>";
 }
 

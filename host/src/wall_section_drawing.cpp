@@ -108,8 +108,8 @@ std::string rectangle_drawing(double width, double thickness, double cover,
   const Spot corner = drawing.at(-width / 2.0, thickness / 2.0);
   drawing.svg_.dimension({corner.x, corner.y + 22.0}, {corner.x + drawing.width_, corner.y + 22.0},
                          millimetres(width));
-  drawing.svg_.dimension({corner.x - 16.0, corner.y - drawing.height_},
-                         {corner.x - 16.0, corner.y}, millimetres(thickness));
+  drawing.svg_.dimension({corner.x - 16.0, corner.y - drawing.height_}, {corner.x - 16.0, corner.y},
+                         millimetres(thickness));
   return drawing.markup();
 }
 

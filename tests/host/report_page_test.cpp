@@ -136,8 +136,12 @@ TEST_F(ReportPage, HasACellForEachColumn) {
   Json project = sound_project();
   project["water"] = {{"retained_level_m", -1}, {"excavated_level_m", -4}};
   project["supports"] = {{"elastic", {{{"level_m", 0}, {"horizontal_kN_m", 100}}}}};
-  project["anchors"] = {{{"level_m", -1}, {"inclination_deg", 15},  {"free_length_m", 8},
-                         {"number", 2},   {"tendon_area_mm2", 500}, {"E_GPa", 195}}};
+  project["anchors"] = {{{"level_m", -1},
+                         {"inclination_deg", 15},
+                         {"free_length_m", 8},
+                         {"number", 2},
+                         {"tendon_area_mm2", 500},
+                         {"E_GPa", 195}}};
   run(project);
   for (const OrderedJson& block : blocks("table")) {
     for (const OrderedJson& row : block["rows"])
@@ -158,9 +162,14 @@ TEST_F(ReportPage, GivesNumbersTheirUnits) {
 TEST_F(ReportPage, DrawsTheSectionWithItsParts) {
   Json project = sound_project();
   project["water"] = {{"retained_level_m", -1}, {"excavated_level_m", -4}};
-  project["anchors"] = {{{"level_m", -1}, {"inclination_deg", 15},  {"free_length_m", 8},
-                         {"number", 2},   {"tendon_area_mm2", 500}, {"E_GPa", 195},
-                         {"bond_length_m", 5}, {"bond_diameter_mm", 150}}};
+  project["anchors"] = {{{"level_m", -1},
+                         {"inclination_deg", 15},
+                         {"free_length_m", 8},
+                         {"number", 2},
+                         {"tendon_area_mm2", 500},
+                         {"E_GPa", 195},
+                         {"bond_length_m", 5},
+                         {"bond_diameter_mm", 150}}};
   run(project);
   const std::string svg = section_drawing(project_, job_, outcome_);
   for (const char* part : {"class=\"soil soil-0\"", "class=\"water\"", "class=\"concrete\"",

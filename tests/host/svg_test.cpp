@@ -16,8 +16,8 @@ TEST(Escaped, LeavesNoLetterThatEndsTextOrAttribute) {
 TEST(Escaped, KeepsWholeCharactersAndReplacesBrokenOnes) {
   EXPECT_EQ(escaped("φ′ 10°"), "φ′ 10°");
   EXPECT_EQ(escaped("a\x01\nb"), "a??b");
-  EXPECT_EQ(escaped("\xC3"), "?");          // a lead byte without what follows
-  EXPECT_EQ(escaped("\xC3<"), "?&lt;");     // and before a letter of its own
+  EXPECT_EQ(escaped("\xC3"), "?");       // a lead byte without what follows
+  EXPECT_EQ(escaped("\xC3<"), "?&lt;");  // and before a letter of its own
   EXPECT_EQ(escaped("\xFF\x80"), "??");
 }
 

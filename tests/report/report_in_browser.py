@@ -31,7 +31,7 @@ def write_report(project: Path, folder: Path) -> Path:
     return page
 
 
-@unittest.skipUnless(browser.program(), "no browser: script/setup --browser installs one")
+@unittest.skipUnless(browser.program(), "no browser: script/setup --test installs one")
 class ReportInBrowser(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
