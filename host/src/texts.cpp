@@ -57,8 +57,6 @@ constexpr std::array<Row, count> rows{{
      "Ostrel: analysis and verification of embedded retaining walls"},
     {Text::run_line, "Calcola un progetto e ne stampa i risultati",
      "Analyse a project and print its results"},
-    {Text::report_line, "Calcola un progetto e ne scrive la relazione, una pagina HTML",
-     "Analyse a project and write its report, one HTML page"},
     {Text::core_line, "Calcola un caso nelle unità della libreria e ne scrive tutti i risultati",
      "Analyse a case in the library's own units and write all its results"},
     {Text::file_of_project, "il progetto (JSON)", "the project (JSON)"},
@@ -67,7 +65,6 @@ constexpr std::array<Row, count> rows{{
      "folder for results, tables and figures (JSON, CSV)"},
     {Text::file_for_results, "file per i risultati (JSON); altrimenti sullo standard output",
      "file for the results (JSON); otherwise they go to standard output"},
-    {Text::file_for_report, "file per la relazione (HTML)", "file for the report (HTML)"},
     {Text::language_line, "lingua dei testi: it o en", "language of the texts: it or en"},
     {Text::help_line, "Stampa questo aiuto ed esce", "Print this help and leave"},
     {Text::version_line, "Stampa la versione ed esce", "Print the version and leave"},
@@ -249,7 +246,6 @@ constexpr std::array<Row, count> rows{{
     {Text::saved_results, "risultati salvati da ostrel run", "results saved by ostrel run"},
     {Text::written_to, "Risultati e diagrammi scritti in {0}",
      "Results and diagrams written to {0}"},
-    {Text::report_written, "Relazione scritta in {0}", "Report written to {0}"},
     {Text::support_horizontal_row, "Appoggio, forza orizzontale", "Support, horizontal force"},
     {Text::support_vertical_row, "Appoggio, forza verticale", "Support, vertical force"},
     {Text::support_moment_row, "Appoggio, momento", "Support, moment"},
@@ -326,6 +322,10 @@ constexpr std::array<Row, count> rows{{
     {Text::no_space, "disco pieno", "no space left"},
     {Text::read_only, "disco in sola lettura", "read-only disk"},
     {Text::a_text_or_lines, "un testo o un elenco di testi", "a text or a list of texts"},
+    {Text::report_line, "Calcola un progetto e ne scrive la relazione, una pagina HTML",
+     "Analyse a project and write its report, one HTML page"},
+    {Text::file_for_report, "file per la relazione (HTML)", "file for the report (HTML)"},
+    {Text::report_written, "Relazione scritta in {0}", "Report written to {0}"},
 }};
 
 constexpr bool in_order() {

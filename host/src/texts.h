@@ -64,13 +64,11 @@ enum class Text : std::int32_t {
   cannot_write,  // file, reason
   program_line,
   run_line,
-  report_line,
   core_line,
   file_of_project,
   file_of_case,
   folder_for_results,
   file_for_results,
-  file_for_report,
   language_line,
   help_line,
   version_line,
@@ -190,7 +188,6 @@ enum class Text : std::int32_t {
   damaged_results,
   saved_results,
   written_to,
-  report_written,  // file
   support_horizontal_row,
   support_vertical_row,
   support_moment_row,
@@ -235,6 +232,10 @@ enum class Text : std::int32_t {
   read_only,
   // Comments
   a_text_or_lines,
+  // A report
+  report_line,
+  file_for_report,
+  report_written,  // file
   count_
 };
 
