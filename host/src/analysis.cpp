@@ -22,22 +22,8 @@ Outcome analyse(const Job& job) {
   return outcome;
 }
 
-namespace {
-
-template <class States>
-const std::vector<xSlopeStability>& slopes_of(const States& states) {
-  static const std::vector<xSlopeStability> none;
-  if constexpr (requires { states.slopeStabilityDesign; }) {
-    return states.slopeStabilityDesign.getResults();
-  } else {
-    return none;
-  }
-}
-
-}  // namespace
-
 const std::vector<xSlopeStability>& slope_results(const Outcome& outcome) {
-  return slopes_of(outcome.ultimate);
+  return outcome.ultimate.slopeStabilityDesign.getResults();
 }
 
 }  // namespace ostrel::host

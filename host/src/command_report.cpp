@@ -39,7 +39,7 @@ bool write_report(const std::string& file, const Project& project, const Job& jo
 }
 
 int report_project(const ReportOptions& options, std::ostream& out, std::ostream& err) {
-  const std::optional<Project> project = 
+  const std::optional<Project> project =
       load_project({options.project_file, options.presets_file}, options.texts, err).project;
   if (!project) return exit_bad_input;
   if (!may_write_report(options.report_file, options.texts, err)) return exit_bad_input;

@@ -234,6 +234,17 @@ private:
         profile_layout(frame(name, ""), true));
   }
 
+  // Reinforcement goes on in steps, and its axis begins at nothing.
+  static OrderedJson stepped(OrderedJson trace) {
+    trace["line"]["shape"] = "vh";
+    return trace;
+  }
+  OrderedJson area_layout(const Both& quantity, const char* unit, bool legend) const {
+    OrderedJson layout = profile_layout(frame(quantity, unit), legend);
+    layout["xaxis"]["rangemode"] = "tozero";
+    return layout;
+  }
+
   void draw_reinforcement() {
     const xReinforcement& bars = outcome_.ultimate.structuralDesign.checkedReinforcement;
     if (bars.sections.empty()) return;
@@ -249,22 +260,22 @@ private:
     }
     const bool one_ring = retained.x.empty();
     OrderedJson data = OrderedJson::array();
-    data.push_back(profile(excavation,
-                           one_ring ? Both{"Barre, tutte", "Bars, all of them"}
-                                    : Both{"Lato scavo", "Excavation side"},
-                           "cm²", 2, {.colour = colour_of(1)}));
+    data.push_back(stepped(profile(excavation,
+                                   one_ring ? Both{"Barre, tutte", "Bars, all of them"}
+                                            : Both{"Lato scavo", "Excavation side"},
+                                   "cm²", 2, {.colour = colour_of(1)})));
     if (!one_ring) {
-      data.push_back(profile(retained, {"Lato terra", "Retained side"}, "cm²", 2,
-                             {.colour = colour_of(0), .dash = "dash"}));
+      data.push_back(stepped(profile(retained, {"Lato terra", "Retained side"}, "cm²", 2,
+                                     {.colour = colour_of(0), .dash = "dash"})));
     }
     add(0, "bars",
         {"Armatura longitudinale lungo la paratia.", "Longitudinal bars along the wall."},
-        std::move(data), profile_layout(frame({"Area", "Area"}, "cm²"), true));
+        std::move(data), area_layout({"Area", "Area"}, "cm²", true));
     add(0, "stirrups",
         {"Staffe lungo la paratia, tutti i bracci.", "Stirrups along the wall, all legs."},
-        OrderedJson::array(
-            {profile(stirrups, {"Staffe", "Stirrups"}, "cm²/m", 2, {.colour = colour_of(2)})}),
-        profile_layout(frame({"Area per lunghezza", "Area by length"}, "cm²/m"), false));
+        OrderedJson::array({stepped(
+            profile(stirrups, {"Staffe", "Stirrups"}, "cm²/m", 2, {.colour = colour_of(2)}))}),
+        area_layout({"Area per lunghezza", "Area by length"}, "cm²/m", false));
   }
 
   OrderedJson outline(const Line& line, const Both& name, const std::string& colour) const {
@@ -274,14 +285,16 @@ private:
     return trace;
   }
 
-  static Line circle(const stabChekData& data) {
+  Line circle(const stabChekData& data) const {
     constexpr int steps = 180;
     Line line;
     for (int i = 0; i <= steps; ++i) {
       const double angle = 2.0 * std::numbers::pi * i / steps;
       const double y = data.yc + data.radius * std::sin(angle);
-      if (y > 0.0) continue;
-      line.add(m_of_mm(data.xc + data.radius * std::cos(angle)), m_of_mm(y));
+      const double x = data.xc + data.radius * std::cos(angle);
+      // No ground stands above the head, nor above the excavation in front of the wall.
+      if (y > (x < 0.0 ? -mm_of_m(project_.excavation_depth_m) : 0.0)) continue;
+      line.add(m_of_mm(x), m_of_mm(y));
     }
     return line;
   }

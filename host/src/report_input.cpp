@@ -481,9 +481,16 @@ OrderedJson input_blocks(const Project& project) {
     if (!block.is_null()) blocks.push_back(std::move(block));
   };
   add(wall_facts(project));
+  add(calculation_facts(project.calculation));
+  if (project.water) add(water_facts(*project.water));
+  if (project.wall.reinforcement) {
+    add(material_facts(*project.wall.reinforcement));
+    add(reinforcement_facts(*project.wall.reinforcement, project.wall.is_diaphragm));
+  }
+  if (project.wall.bearing) add(bearing_facts(*project.wall.bearing));
+  if (project.slope) add(slope_facts(*project.slope));
   add(soil_table(project));
   add(layer_table(project));
-  if (project.water) add(water_facts(*project.water));
   if (!project.anchors.empty()) add(anchor_table(project));
   if (!project.fixed_supports.empty() || !project.elastic_supports.empty())
     add(support_table(project));
@@ -491,17 +498,12 @@ OrderedJson input_blocks(const Project& project) {
   add(ground_load_table(project));
   add(wall_load_table(project));
   add(combination_table(project));
+  for (const std::string& note : project.notes)
+    add(note_block(same(note)));
   add(action_table(project));
   add(soil_factor_table(project));
   add(resistance_factor_table(project));
   add(check_table(project));
-  if (project.wall.reinforcement) {
-    add(material_facts(*project.wall.reinforcement));
-    add(reinforcement_facts(*project.wall.reinforcement, project.wall.is_diaphragm));
-  }
-  if (project.wall.bearing) add(bearing_facts(*project.wall.bearing));
-  if (project.slope) add(slope_facts(*project.slope));
-  add(calculation_facts(project.calculation));
   return blocks;
 }
 

@@ -128,6 +128,7 @@ OrderedJson report_data(const Project& project, const Job& job, const Outcome& o
     chapters.push_back({{"id", id}, {"title", title}, {"blocks", std::move(blocks)}});
   };
   add("results", {"Risultati", "Results"}, result_blocks(project, job, outcome, drawn));
+  add("verifications-chapter", {"Verifiche", "Verifications"}, verification_blocks(outcome));
   OrderedJson section = OrderedJson::array();
   section.push_back(drawing_block("section",
                                   {"In scala; quote in metri dalla testa della paratia.",

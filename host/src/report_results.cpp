@@ -10,6 +10,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <string>
 #include <utility>
@@ -17,6 +18,8 @@
 namespace ostrel::host {
 
 namespace {
+
+constexpr double nothing_to_verify = 1e9;
 
 // Those of one combination but for the slip circles, which have a chapter of their own.
 std::vector<std::string> ids_of(const std::vector<Figure>& figures, int combination) {
@@ -153,7 +156,66 @@ OrderedJson stretch_table(const xReinforcement& reinforcement, bool rectangle) {
   return table.block();
 }
 
+// The smallest factor of one level of the verifications; it is computed on a copy.
+template <class Level>
+double smallest_factor(Level level) {
+  return level.getSfMin(nullptr);
+}
+
+// What the library says of each verification that is not satisfied, in its language.
+OrderedJson failure_block(const Outcome& outcome) {
+  std::vector<osg::ref_ptr<xCheckInfo>> failures;
+  xUltimateLimitStates ultimate = outcome.ultimate;
+  xServiceabilityLimitStates serviceability = outcome.serviceability;
+  ultimate.getSfMin(&failures);
+  serviceability.getSfMin(&failures);
+  OrderedJson items = OrderedJson::array();
+  for (const auto& failure : failures) {
+    items.push_back({{"severity", "error"},
+                     {"label", Both{"Non verificata:", "Not satisfied:"}},
+                     {"text", failure->getString()}});
+  }
+  if (items.empty()) return {};
+  return {{"kind", "messages"}, {"items", std::move(items)}};
+}
+
 }  // namespace
+
+OrderedJson verification_blocks(const Outcome& outcome) {
+  ReportTable table(
+      "verifications",
+      {"Fattore di sicurezza minimo di ogni verifica",
+       "Smallest safety factor of each verification"},
+      {{{"Verifica", "Verification"}}, {{"Fattore", "Factor"}, "", 2}, {{"Esito", "Outcome"}}});
+  const auto row = [&](const Both& name, double factor) {
+    if (factor >= nothing_to_verify) {
+      table.add({name, OrderedJson(), Both{"niente da verificare", "nothing to verify"}});
+      return;
+    }
+    // Down to two decimals: a factor below 1 never shows as 1.
+    table.add({name, std::floor(100.0 * factor) / 100.0, verdict_cell(factor >= 1.0)});
+  };
+  const xUltimateLimitStates& ultimate = outcome.ultimate;
+  row({"Resistenza della paratia", "Strength of the wall"},
+      smallest_factor(ultimate.structuralDesign));
+  row({"Stabilità globale", "Global stability"}, smallest_factor(ultimate.slopeStabilityDesign));
+  row({"Resistenza dei tiranti", "Strength of the anchors"},
+      smallest_factor(ultimate.structuralAnchorDesign));
+  row({"Sfilamento dei tiranti", "Pull-out of the anchors"},
+      smallest_factor(ultimate.geotechnicalAnchorDesign));
+  row({"Carico limite verticale", "Vertical bearing"},
+      smallest_factor(ultimate.geotechnicalPileDesign));
+  row({"Moto rigido", "Rigid body motion"}, smallest_factor(ultimate.rigidBodyDesign));
+  row({"Trave di coronamento", "Cap beam"}, smallest_factor(ultimate.traveResults));
+  row({"Sifonamento e sollevamento", "Piping and uplift"},
+      smallest_factor(ultimate.hydraulicChecks));
+  row({"Spostamenti", "Displacements"}, smallest_factor(outcome.serviceability));
+  OrderedJson blocks = OrderedJson::array();
+  blocks.push_back(table.block());
+  OrderedJson failures = failure_block(outcome);
+  if (!failures.is_null()) blocks.push_back(std::move(failures));
+  return blocks;
+}
 
 OrderedJson overview_blocks(const Project& project, const Job& job, const Outcome& outcome,
                             const std::vector<Figure>& figures) {

@@ -42,7 +42,9 @@ Both with_metres(const char* italian, const char* english, double metres) {
 }
 
 std::string level_text(double level) {
-  return std::abs(level) < 0.005 ? "±0.00" : fmt::format("{:+.2f}", level);
+  if (std::abs(level) < 0.005) return "±0.00";
+  const std::string sign = level < 0.0 ? "−" : "+";
+  return sign + fmt::format("{:.2f}", std::abs(level));
 }
 
 const xSlopeStability* worst_circle(const Outcome& outcome) {
@@ -359,7 +361,7 @@ private:
     } else {
       svg_.arrow({x0, base - height}, {x0, base}, "load");
     }
-    svg_.text({x0, base - height - 5.0}, same(name + "  " + value_of(load)), Hold::start,
+    svg_.text({x0, base - height - 5.0}, same(name + ", " + value_of(load)), Hold::start,
               "load-text");
   }
 
@@ -388,7 +390,7 @@ private:
         const double along = part.vertical_kN < 0.0 ? size : -size;
         if (std::abs(part.vertical_kN) > 0.0) svg_.arrow({place.x, place.y + along}, place, "load");
         if (std::abs(part.moment_kNm) > 0.0) svg_.circle(place, 11.0, "load moment");
-        svg_.text({place.x + size + 6.0, place.y - 6.0}, same(load.name + "  " + value_of(part)),
+        svg_.text({place.x + size + 6.0, place.y - 6.0}, same(load.name + ", " + value_of(part)),
                   Hold::start, "load-text");
       }
     }
@@ -407,30 +409,38 @@ private:
     return text;
   }
 
+  // A layer that reaches under the excavation is named there, where no anchor crosses it.
   void draw_layer_names() {
-    const double x = 0.97 * window_.right;
+    std::vector<bool> named(job_.data.soilLayers.size(), false);
+    name_layers(0.97 * window_.left, 4.0 * letter, named);
+    name_layers(0.97 * window_.right, 2.0 * letter, named);
+  }
+
+  void name_layers(double x, double least_height, std::vector<bool>& named) {
+    const Hold hold = x < 0.0 ? Hold::start : Hold::end;
+    const double inset = x < 0.0 ? 10.0 : -10.0;
     for (const Stretch& stretch : ground_at(x)) {
       const double top = std::min(stretch.top, window_.top);
       const double bottom = std::max(stretch.bottom, window_.bottom);
-      if (!((top - bottom) * scale_ > 2.0 * letter)) continue;
-      const std::size_t soil = stretch.layer < project_.ground.layers.size()
-                                 ? project_.ground.layers[stretch.layer].soil
-                                 : 0;
+      if (named[stretch.layer] || !((top - bottom) * scale_ > least_height)) continue;
+      named[stretch.layer] = true;
+      const auto& layers = project_.ground.layers;
+      const std::size_t soil = stretch.layer < layers.size() ? layers[stretch.layer].soil : 0;
       const SoilInput& data = project_.soils[soil];
-      const Spot place = at(window_.right, (top + bottom) / 2.0);
-      svg_.text({place.x - 10.0, place.y - 2.0}, same(data.name), Hold::end, "soil-name");
-      svg_.text({place.x - 10.0, place.y + letter + 1.0},
-                same(fmt::format("γ {:g} kN/m³   φ {:g}°   c {:g} kPa", data.unit_weight_kN_m3,
+      const Spot place = at(x < 0.0 ? window_.left : window_.right, (top + bottom) / 2.0);
+      svg_.text({place.x + inset, place.y - 2.0}, same(data.name), hold, "soil-name");
+      svg_.text({place.x + inset, place.y + letter + 1.0},
+                same(fmt::format("γ {:g} kN/m³ · φ {:g}° · c {:g} kPa", data.unit_weight_kN_m3,
                                  data.friction_angle_deg, data.cohesion_kPa)),
-                Hold::end, "soil-data");
+                hold, "soil-data");
     }
   }
 
   void draw_dimensions() {
     const double length = project_.wall.length_m;
     const double depth = project_.excavation_depth_m;
-    const double outer = 34.0;
-    const double inner = 76.0;
+    const double outer = 24.0;
+    const double inner = 62.0;
     const double reach = left_margin - 8.0;
     const auto mark = [&](double level, double from) {
       svg_.line({from, at(0.0, level).y}, {reach, at(0.0, level).y}, "guide");

@@ -13,6 +13,7 @@
 
 #include <cmath>
 #include <sstream>
+#include <utility>
 
 namespace ostrel::host {
 namespace {
@@ -151,6 +152,23 @@ TEST_F(ReportPage, HasACellForEachColumn) {
   EXPECT_EQ(table("support-forces-01")["rows"].size(), 1U);
 }
 
+// The head moves, so that no displacement of 10 m and each of a thousandth of a millimetre is too
+// much.
+TEST_F(ReportPage, TellsWhichVerificationIsSatisfied) {
+  Json project = sound_project();
+  project["combinations"][0]["checks"] = {"displacements"};
+  for (const auto& [limit, holds] : {std::pair{1e4, true}, std::pair{1e-3, false}}) {
+    project["wall"]["displacement_limits"] = {{"head_mm", limit}, {"excavation_mm", limit}};
+    run(project);
+    const OrderedJson rows = table("verifications")["rows"];
+    ASSERT_EQ(rows.size(), 9U);
+    EXPECT_EQ(rows[8][0]["en"], "Displacements");
+    EXPECT_EQ(rows[8][2]["verdict"], holds);
+    EXPECT_EQ(rows[0][2]["en"], "nothing to verify");
+    EXPECT_EQ(blocks("messages").empty(), holds);
+  }
+}
+
 TEST_F(ReportPage, GivesNumbersTheirUnits) {
   run(sound_project());
   const OrderedJson columns = table("soils")["columns"];
@@ -174,7 +192,7 @@ TEST_F(ReportPage, DrawsTheSectionWithItsParts) {
   const std::string svg = section_drawing(project_, job_, outcome_);
   for (const char* part : {"class=\"soil soil-0\"", "class=\"water\"", "class=\"concrete\"",
                            "class=\"tendon\"", "class=\"bond\"", "class=\"load head\"",
-                           ">excavation 4.00 m<", ">infissione 6.00 m<", "Q  10 kPa"}) {
+                           ">excavation 4.00 m<", ">infissione 6.00 m<", "Q, 10 kPa"}) {
     EXPECT_THAT(svg, HasSubstr(part));
   }
 }
