@@ -5,6 +5,7 @@
 #include "report_input.h"
 #include "summary.h"
 #include "units.h"
+#include "verification.h"
 #include "wall_section_drawing.h"
 
 #include <fmt/format.h>
@@ -18,8 +19,6 @@
 namespace ostrel::host {
 
 namespace {
-
-constexpr double nothing_to_verify = 1e9;
 
 // Those of one combination but for the slip circles, which have a chapter of their own.
 std::vector<std::string> ids_of(const std::vector<Figure>& figures, int combination) {
@@ -137,7 +136,8 @@ OrderedJson stretch_table(const xReinforcement& reinforcement, bool rectangle) {
   columns.push_back({{"Staffe, bracci", "Stirrups, legs"}});
   ReportTable table(
       "reinforcement",
-      {"Armatura lungo la paratia, dalla testa", "Reinforcement along the wall, from the head"},
+      {"Armatura delle sezioni, dalla testa; tra due righe vale la maggiore",
+       "Reinforcement of the sections, from the head; between two rows the stronger holds"},
       std::move(columns));
   const auto& sections = reinforcement.sections;
   for (std::size_t first = 0; first < sections.size();) {
@@ -145,7 +145,7 @@ OrderedJson stretch_table(const xReinforcement& reinforcement, bool rectangle) {
     std::size_t next = first + 1;
     while (next < sections.size() && bars_of(*sections[next]) == bars)
       ++next;
-    const double end = m_of_mm(sections[std::min(next, sections.size() - 1)]->getAbscissa());
+    const double end = m_of_mm(sections[next - 1]->getAbscissa());
     std::vector<OrderedJson> cells{m_of_mm(sections[first]->getAbscissa()), end, bars.uphill};
     if (rectangle) cells.emplace_back(bars.valley);
     cells.emplace_back(cm2_of_mm2(sections[first]->Atot()));
@@ -156,10 +156,9 @@ OrderedJson stretch_table(const xReinforcement& reinforcement, bool rectangle) {
   return table.block();
 }
 
-// The smallest factor of one level of the verifications; it is computed on a copy.
-template <class Level>
-double smallest_factor(Level level) {
-  return level.getSfMin(nullptr);
+// Down to two decimals, so that a factor below the limit never shows as the limit.
+double shown(double factor) {
+  return factor < unlimited ? std::floor(100.0 * factor) / 100.0 : factor;
 }
 
 // What the library says of each verification that is not satisfied, in its language.
@@ -182,34 +181,31 @@ OrderedJson failure_block(const Outcome& outcome) {
 }  // namespace
 
 OrderedJson verification_blocks(const Outcome& outcome) {
-  ReportTable table(
-      "verifications",
-      {"Fattore di sicurezza minimo di ogni verifica",
-       "Smallest safety factor of each verification"},
-      {{{"Verifica", "Verification"}}, {{"Fattore", "Factor"}, "", 2}, {{"Esito", "Outcome"}}});
-  const auto row = [&](const Both& name, double factor) {
-    if (factor >= nothing_to_verify) {
-      table.add({name, OrderedJson(), Both{"niente da verificare", "nothing to verify"}});
-      return;
+  const Texts italian(Language::italian);
+  const Texts english(Language::english);
+  const std::vector<Verification> in_italian =
+      verifications_of(outcome.ultimate, outcome.serviceability, italian);
+  const std::vector<Verification> in_english =
+      verifications_of(outcome.ultimate, outcome.serviceability, english);
+  ReportTable table("verifications",
+                    {"Fattore di sicurezza minimo di ogni verifica",
+                     "Smallest safety factor of each verification"},
+                    {{{"Verifica", "Verification"}},
+                     {{"Fattore", "Factor"}, "", 2},
+                     {{"Esito", "Outcome"}},
+                     {{"Combinazione", "Combination"}},
+                     {{"Dove", "Where"}}});
+  for (std::size_t i = 0; i < in_english.size(); ++i) {
+    const Verification& one = in_english[i];
+    const Both name{std::string(name_of(one.check, italian)),
+                    std::string(name_of(one.check, english))};
+    if (!one.made) {
+      table.add({name, OrderedJson(), Both{"non eseguita", "not made"}, "–", "–"});
+      continue;
     }
-    // Down to two decimals: a factor below 1 never shows as 1.
-    table.add({name, std::floor(100.0 * factor) / 100.0, verdict_cell(factor >= 1.0)});
-  };
-  const xUltimateLimitStates& ultimate = outcome.ultimate;
-  row({"Resistenza della paratia", "Strength of the wall"},
-      smallest_factor(ultimate.structuralDesign));
-  row({"Stabilità globale", "Global stability"}, smallest_factor(ultimate.slopeStabilityDesign));
-  row({"Resistenza dei tiranti", "Strength of the anchors"},
-      smallest_factor(ultimate.structuralAnchorDesign));
-  row({"Sfilamento dei tiranti", "Pull-out of the anchors"},
-      smallest_factor(ultimate.geotechnicalAnchorDesign));
-  row({"Carico limite verticale", "Vertical bearing"},
-      smallest_factor(ultimate.geotechnicalPileDesign));
-  row({"Moto rigido", "Rigid body motion"}, smallest_factor(ultimate.rigidBodyDesign));
-  row({"Trave di coronamento", "Cap beam"}, smallest_factor(ultimate.traveResults));
-  row({"Sifonamento e sollevamento", "Piping and uplift"},
-      smallest_factor(ultimate.hydraulicChecks));
-  row({"Spostamenti", "Displacements"}, smallest_factor(outcome.serviceability));
+    table.add({name, shown(one.factor), verdict_cell(!is_below(one, 1.0)), one.combination,
+               Both{in_italian[i].place, one.place}});
+  }
   OrderedJson blocks = OrderedJson::array();
   blocks.push_back(table.block());
   OrderedJson failures = failure_block(outcome);

@@ -161,10 +161,11 @@ TEST_F(ReportPage, TellsWhichVerificationIsSatisfied) {
     project["wall"]["displacement_limits"] = {{"head_mm", limit}, {"excavation_mm", limit}};
     run(project);
     const OrderedJson rows = table("verifications")["rows"];
-    ASSERT_EQ(rows.size(), 9U);
-    EXPECT_EQ(rows[8][0]["en"], "Displacements");
-    EXPECT_EQ(rows[8][2]["verdict"], holds);
-    EXPECT_EQ(rows[0][2]["en"], "nothing to verify");
+    ASSERT_EQ(rows.size(), 10U);
+    EXPECT_EQ(rows[9][0]["en"], "Displacements");
+    EXPECT_EQ(rows[9][2]["verdict"], holds);
+    EXPECT_EQ(rows[9][3], "C");
+    EXPECT_EQ(rows[0][2]["en"], "not made");
     EXPECT_EQ(blocks("messages").empty(), holds);
   }
 }
