@@ -369,36 +369,4 @@ TEST(LoadCondPress, ResetClearsNameAndLoads) {
   EXPECT_THAT(condition.loads, IsEmpty());
 }
 
-// --- Published values ---
-
-// FHWA-IF-99-015 (GEC-4), appendix A, design example 1: 11 kPa on soil of 33° give 3.2 kPa.
-TEST(PublishedLoadPressures, UniformLoadOfTheHighwayAdministration) {
-  xSoilProps soil;
-  soil.set_InternalFriction(33.0 * pi / 180.0);
-  const Surroundings around{.layers = {layer_of(soil, {0.0, 1000.0})}};
-  EXPECT_NEAR(around.from(uniform(0.011)).diagrams.at(0).points[0].value, 3.2e-3, 0.05e-3);
-}
-
-// King Saud University, CE 481, example 13.18: of the 17.334 kPa at the base, Ka 10 kPa = 3.9046
-// come from the load on the ground (phi 26°).
-TEST(PublishedLoadPressures, UniformLoadOfTheKingSaudUniversity) {
-  xSoilProps soil;
-  soil.set_InternalFriction(26.0 * pi / 180.0);
-  const Surroundings around{.layers = {layer_of(soil, {0.0, 4000.0})}};
-  EXPECT_NEAR(around.from(uniform(0.010)).diagrams.at(0).points[1].value, 3.9046e-3, 1e-7);
-}
-
-// Budhu, Soil Mechanics and Foundations (2011): strip of 100 kPa, 2 m wide, 3 m behind a wall of
-// 19 m; 11.85 kPa at 5 m, 121.83 kN/m in all.
-TEST(PublishedLoadPressures, StripLoadByBudhu) {
-  xSoilLayer layer;
-  layer.setThickness(19000.0);
-  layer.setStepSize(25.0);
-  layer.discretize();
-  const Surroundings around{.layers = {layer}, .depth = 19000.0};
-  const xLoadPress press = around.from(strip(0.1, 0.1, 3000.0, 2000.0));
-  EXPECT_NEAR(press.diagrams.at(0).getPressAt(5000.0), 11.85e-3, 5e-4 * 11.85e-3);
-  EXPECT_NEAR(-press.diagrams.at(0).Rx, 121.83, 5e-4 * 121.83);
-}
-
 }  // namespace
