@@ -81,6 +81,14 @@ TEST(SlopeResults, OfAllCombinationsAreStored) {
   xSlopeStabilityDesign design;
   design.getResults() = {stability(), stability(2)};
   design.computeSfMin();
+  EXPECT_EQ(stored(design), frame_bytes(1, bytes_of([&design](outstream& out) {
+                                          xBaseResults base;
+                                          base.setSf(0.9);
+                                          base.pub_write(out);
+                                          out << 2;
+                                          design.getResults()[0].pub_write(out);
+                                          design.getResults()[1].pub_write(out);
+                                        })));
   EXPECT_EQ(stored(through_memory(design)), stored(design));
   EXPECT_EQ(design.getIOClass(), "xSlopeStabilityDesign");
   design.reset();
