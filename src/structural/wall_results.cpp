@@ -4,11 +4,18 @@
 #include "services/class_frame.h"
 #include "structural/verification_frame.h"
 
+#include <cmath>
+
 using ostrel::structural::Failures;
 using ostrel::structural::scan_groups;
 using ostrel::structural::scan_records;
 
 namespace {
+
+// The smaller factor of a section; a factor that is not a number does not hide the other.
+double least_factor(const xSectionCheck& section) {
+  return std::fmin(section.shear.getSf(), section.flex.getSf());
+}
 
 // A failed section of a member, about to be listed.
 osg::ref_ptr<xCheckInfo> failed_section(const xCheckCombID& id, double sf, double abscissa,
@@ -82,12 +89,11 @@ void xStructCombRes::Write(outstream& out) const {
 }
 
 double xBendShearCombResults::getSfMin(Failures* failures) {
-  scan_records(
-      *this, sections, failures, [](const xSectionCheck& section) { return section.getSf(); },
-      [this](const xSectionCheck& section, double factor) {
-        const bool is_shear = section.shear.getSf() < section.flex.getSf();
-        return failed_section(*this, factor, section.abscissa, is_shear);
-      });
+  scan_records(*this, sections, failures, least_factor,
+               [this](const xSectionCheck& section, double factor) {
+                 const bool is_shear = section.shear.getSf() < section.flex.getSf();
+                 return failed_section(*this, factor, section.abscissa, is_shear);
+               });
   return sf;
 }
 

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace {
 
 using ostrel::testing::bytes_of;
@@ -88,6 +90,15 @@ TEST(BendShearCombResults, TakeEqualFactorsForBending) {
   EXPECT_FALSE(dynamic_cast<const concreteCheckInfo&>(*failures[0]).isShear);
 }
 
+TEST(BendShearCombResults, TellAFailureBesideAFactorThatIsNoNumber) {
+  const double none = std::numeric_limits<double>::quiet_NaN();
+  auto results = combination({section(none, 0.5), section(0.25, none), section(none, none)});
+  std::vector<osg::ref_ptr<xCheckInfo>> failures;
+  EXPECT_DOUBLE_EQ(results.getSfMin(&failures), 0.25);
+  EXPECT_DOUBLE_EQ(results.getIndex(), 1.0);
+  EXPECT_EQ(failures.size(), 2U);
+}
+
 TEST(BendShearResults, GiveATieToTheLaterCombination) {
   xBendShearResults results;
   results.combinations = {combination({section(0.5, 1.0)}), combination({section(1.0, 0.5)}),
@@ -146,6 +157,46 @@ TEST(BendShearResults, AreStoredAfterTheirBase) {
                                            results.combinations[0].pub_write(out);
                                          })));
   EXPECT_EQ(stored(through_memory(results)), stored(results));
+}
+
+xShearCombResults weak_in_shear() {
+  xShear weak;
+  weak.setVd(2.0);
+  weak.setVRd(1.0);
+  xShearCombResults results;
+  results.setCheckID(7, 3, "A1");
+  results.sections = {weak};
+  results.getSfMin(nullptr);
+  return results;
+}
+
+TEST(ShearCombResults, AreStoredAfterTheirTwoBases) {
+  const xShearCombResults results = weak_in_shear();
+  EXPECT_EQ(results.getIOClass(), "xShearCombResults");
+  EXPECT_EQ(stored(results), frame_bytes(1, bytes_of([&results](outstream& out) {
+                                           xBaseResults base;
+                                           base.setSf(0.5);
+                                           base.pub_write(out);
+                                           xCheckCombID id;
+                                           id.setCheckID(7, 3, "A1");
+                                           id.pub_write(out);
+                                           out << 1;
+                                           results.sections[0].pub_write(out);
+                                         })));
+}
+
+TEST(ShearResults, AreStoredAfterTheirBase) {
+  xShearResults results;
+  results.combinations = {weak_in_shear()};
+  results.getSfMin(nullptr);
+  EXPECT_EQ(results.getIOClass(), "xShearResults");
+  EXPECT_EQ(stored(results), frame_bytes(1, bytes_of([](outstream& out) {
+                                           xBaseResults base;
+                                           base.setSf(0.5);
+                                           base.pub_write(out);
+                                           out << 1;
+                                           weak_in_shear().pub_write(out);
+                                         })));
 }
 
 TEST(StructCombRes, IsStoredAsItsForcesAlone) {
