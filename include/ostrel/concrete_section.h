@@ -111,11 +111,18 @@ public:
 
   const xRectReinfSettings* getSettings() const;  ///< null when they are of the other kind
 
+  /// Whether a strain plane within the ultimate domain balances the forces.
+  /// @param N       axial force, tension positive [N]
+  /// @param M       moment across the wall [N mm]
+  /// @param My      moment along the wall [N mm]
+  /// @param deform  where the search begins, and what it found
+  /// @return false also before `build`
+  bool mySolve(double N, double M, double My, Ferrule::Deform& deform, double tol, int maxIter);
+
 protected:
   void setReinfBars();
 
 private:
-  bool mySolve(double N, double M, double My, Ferrule::Deform& deform, double tol, int maxIter);
   /// One step of growth, on the more strained side.
   ///
   /// @oddity The uphill row follows the valley row by the ratio, whichever side was increased, so

@@ -2,6 +2,8 @@
 #include "ostrel/concrete_section.h"
 #include "support/concrete_walls.h"
 
+#include <ferrule/ultimate_section.h>
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -103,6 +105,53 @@ TEST_F(Rectangle, CarriesWhatTheBalanceOfForcesGives) {
   const double x = tension / (17.0 / 21.0 * 1000.0 * fcd);
   const double moment = tension * (550.0 - 99.0 / 238.0 * x);
   EXPECT_NEAR(section->getAbsMresist(0.0, true), moment, 1e-9 * moment);
+}
+
+TEST_F(Rectangle, GrowsByAStepFromNoBarsAtAll) {
+  settings->useVertexBars = false;
+  settings->ratio = 0.0;
+  settings->setStep(3);
+  settings->maxValle = 0.0;  // one step of growth alone
+  build();
+  ASSERT_TRUE(section->AxialDesign(-50e3, 300e6));
+  EXPECT_EQ(valley(), 3U);
+  EXPECT_EQ(uphill(), 0U);
+  section->beginDesign(1.0);
+  ASSERT_TRUE(section->AxialDesign(-50e3, -300e6));
+  EXPECT_EQ(valley(), 0U);
+  EXPECT_EQ(uphill(), 3U);
+}
+
+// A step adds a fifth bar of 20 mm on the valley side: 5 * 314.16 = 1570.8 mm². Bars of 16 mm have
+// 201.06 mm² each, 1570.8 / 201.06 = 7.8, so 8 of them uphill.
+TEST_F(Rectangle, KeepsItsRowsEqualInAreaAndNotInNumber) {
+  settings->useVertexBars = false;
+  settings->ratio = 100.0;
+  settings->maxValle = 0.0;  // one step of growth alone
+  build();
+  osg::ref_ptr<xReinfRectSection> record = new xReinfRectSection;
+  record->vertexBars = false;
+  record->AValleEff().setNumber(4);
+  record->AValleEff().setDiameter(20.0);
+  record->AMonteEff().setDiameter(16.0);
+  ASSERT_TRUE(section->setReinforcement(record.get()));
+  ASSERT_TRUE(section->AxialDesign(0.0, 5e9));
+  EXPECT_EQ(valley(), 5U);
+  EXPECT_EQ(uphill(), 8U);
+}
+
+// Concrete alone carries 14.11 * 600 * 1000 = 8466 kN. 1000 kN leave 1.6667 N/mm², on the parabola
+// at 0.002 (1 - sqrt(1 - 1.6667 / 14.11)) = 0.00012183 all over the section.
+TEST_F(Rectangle, FindsTheStrainPlaneOfForcesItCanCarry) {
+  const osg::ref_ptr<rect_ConcreteSection> panel =
+      new rect_ConcreteSection(1000.0, 600.0, settings.get());
+  Ferrule::Deform deform;
+  EXPECT_FALSE(panel->mySolve(-1000e3, 0.0, 0.0, deform, 1e-4, 20));
+  ASSERT_TRUE(panel->build());
+  EXPECT_TRUE(panel->mySolve(-1000e3, 0.0, 0.0, deform, 1e-4, 20));
+  EXPECT_NEAR(deform.d0, -0.00012183, 1e-8);
+  EXPECT_NEAR(deform.d1, 0.0, 1e-9);
+  EXPECT_FALSE(panel->mySolve(-8500e3, 0.0, 0.0, deform, 1e-4, 20));
 }
 
 TEST_F(Rectangle, KeepsItsRowsEqualAtAFullRatio) {
