@@ -39,8 +39,8 @@ public:
 
   int xsize() const { return 4; }
   /// The entry at a position: 0 abscissa, 1 axial force, 2 shear, 3 moment. Any other position
-  /// gives a number of the process that every call sets to 0, so that writing there changes no
-  /// vector; it is not guarded between threads.
+  /// gives a number of the calling thread that every call sets to 0, so that writing there changes
+  /// no vector.
   double& operator[](int position);
 
   double z = 0.0;  ///< abscissa: depth below the head [mm]

@@ -155,6 +155,38 @@ TEST_F(WallDesign, TakesTwoAbscissaeAtTheToleranceForOneButDoesNotFindTheSecond)
   EXPECT_EQ(check(), errNoReinfAtAbscissa);
 }
 
+// The second combination has no record at its 700 mm; the first stays verified.
+TEST_F(WallDesign, ReadsTheAbscissaeOfTheFirstCombinationAlone) {
+  ASSERT_EQ(
+      collect({forces("A", {{0.0, 1.0}, {500.0, 1.0}}), forces("B", {{0.0, 1.0}, {700.0, 1.0}})}),
+      ostrel::ok);
+  ASSERT_EQ(design(), ostrel::ok);
+  ASSERT_EQ(wall.designedReinforcement.sections.size(), 2U);
+  EXPECT_DOUBLE_EQ(wall.designedReinforcement.sections[1]->getAbscissa(), 500.0);
+  EXPECT_EQ(check(), errNoReinfAtAbscissa);
+  ASSERT_EQ(wall.bendShear.combinations.size(), 1U);
+  EXPECT_EQ(wall.bendShear.combinations[0].getCombName(), "A");
+}
+
+// Five bars of 20 mm on the valley side alone, 50 mm from the face of a panel 600 mm deep and
+// 1000 mm wide, stretched by a positive moment: T = 1570.8 * 391.304 = 614 661 N, the depth in
+// compression x = T / (17/21 * 1000 * 14.11) = 53.81 mm, Mrd = T (550 - 99/238 * x) = 324.30 kNm.
+// A negative moment has them at less than 50 mm from the compressed face: below T * 50 = 30.7 kNm.
+TEST_F(WallDesign, CountsAMomentOfZeroAsPositive) {
+  section = rectangle_section(600.0, 1000.0).get();
+  settings = common_settings<xRectReinfSettings>(20.0, 50.0).get();
+  osg::ref_ptr<xReinfRectSection> record = new xReinfRectSection;
+  record->vertexBars = false;
+  record->AValleEff().setNumber(5);
+  record->AValleEff().setDiameter(20.0);
+  wall.checkedReinforcement.sections.emplace_back(record.get());
+  wall.combResults.emplace_back().stresses = {{0.0, 0.0, 0.0, 0.0}, {0.0, 0.0, 0.0, -1.0}};
+  ASSERT_EQ(check(), ostrel::ok);
+  const auto& sections = wall.bendShear.combinations.at(0).sections;
+  EXPECT_NEAR(sections.at(0).flex.Mrd, 324.30e6, 0.01e6);
+  EXPECT_LT(sections.at(1).flex.Mrd, 30.74e6);
+}
+
 TEST_F(WallDesign, NeedsASectionThatSuitsItsSettings) {
   section = rectangle_section(600.0, 1000.0).get();
   EXPECT_EQ(design(), errInvalidSection);
@@ -194,6 +226,10 @@ TEST_F(WallDesign, IsStoredWithoutTheIdentityOfItsForces) {
   EXPECT_EQ(read.combResults[0].getIdObj(), -1);
   EXPECT_EQ(read.combResults[0].getCombName(), "");
   EXPECT_EQ(read.bendShear.combinations[0].getIdObj(), 7);
+  ASSERT_EQ(read.check(section.get(), settings), ostrel::ok);
+  EXPECT_EQ(read.bendShear.combinations.at(0).getIdObj(), -1);
+  EXPECT_EQ(read.bendShear.combinations[0].getCombIndex(), 0);
+  EXPECT_EQ(read.bendShear.combinations[0].getCombName(), "");
   read.reset();
   EXPECT_EQ(stored(read), stored(xStructuralDesign{}));
 }
