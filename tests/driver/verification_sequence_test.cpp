@@ -164,11 +164,12 @@ TEST_F(Verifications, KeepTheDesignOfAWallThatCannotBeVerified) {
 }
 
 TEST_F(Verifications, KeepTheWallWhereTheSlopeCannotBeVerified) {
-  solve(asking_for({checkWallStructure, checkGlobalStability}));
+  solve_anchored(asking_for({checkWallStructure, checkGlobalStability, checkAnchorStructure}));
   solver.data.calcSettings.slope.setFormulation(2);
   EXPECT_EQ(check(), errStabilityFormula);
   EXPECT_EQ(uls.structuralDesign.bendShear.combinations.size(), 1U);
   EXPECT_TRUE(uls.slopeStabilityDesign.getResults().empty());
+  EXPECT_TRUE(uls.structuralAnchorDesign.anchors.empty());
 }
 
 TEST_F(Verifications, TakeTheForcesOfTheAnchors) {
