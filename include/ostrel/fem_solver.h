@@ -80,8 +80,8 @@ public:
   ///
   /// A secant iteration: each pass takes every soil spring with its stiffness at the displacement
   /// of the pass before and solves anew. It ends when the sum of the absolute changes of dof 1 over
-  /// the spring nodes is at most the tolerance, or after `maxIterations` passes, of which there is
-  /// always one; its solution then stands without an error. `K` is there unchanged in the end.
+  /// the spring nodes is at most the tolerance, or after `maxIterations` passes (100 000 at most),
+  /// of which there is always one; its solution then stands without an error. `K` is there unchanged in the end.
   ///
   /// @oddity The sum is absolute, in mm, and grows with the number of nodes. Stored results depend
   /// on it.
@@ -97,7 +97,8 @@ public:
   /// @retval errNonLinearNotConverged  all springs beyond their limits, or none at all
   /// @retval errFemNodeNotFound  a spring lacks a neighbour, or a load, support or anchor stands on
   ///         a node or an element that the beam does not have
-  /// @retval errEquationSolve  a mechanism, or numbers that are not finite
+  /// @retval errEquationSolve  a mechanism, or numbers that are not finite, in what is given or in
+  ///         what comes of it
   /// @retval errNodeCountModel  more than 5000 elements: the dense matrix would not fit the memory
   OstrelErrorType solve(xFemSolverOptions& options, const std::vector<info_Fem_anchor>& anchors,
                         const xFemData& data, const std::map<int, NodeModulus>& modulus,

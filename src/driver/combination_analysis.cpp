@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // One combination: its actions become loads of the beam, the beam is solved, the diagrams are kept.
 #include "driver/soil_limit_forces.h"
+#include "fem/finite_results.h"
 #include "model/pile_wall.h"
 #include "ostrel/solver.h"
 
@@ -117,8 +118,9 @@ OstrelErrorType xSolver::solveOnBeam(xLoadComb* comb, xCombResults& result, xFem
                     wall->getSpacing());
   if (code == ostrel::ok) code = result.femResults.getData(data, model.anchors, model.fem, raw);
   if (code != ostrel::ok) return code;
-  ostrel::driver::add_soil_limit_forces(springs, wall->getSpacing(), result.femResults.soilForces);
-  return ostrel::ok;
+  auto& soil_forces = result.femResults.soilForces;
+  ostrel::driver::add_soil_limit_forces(springs, wall->getSpacing(), soil_forces);
+  return ostrel::fem::is_finite(soil_forces) ? ostrel::ok : errEquationSolve;
 }
 
 xLoadPress xSolver::computeLoadPress(xAction& action, xLoadComb* comb, xSoilLoad* load,

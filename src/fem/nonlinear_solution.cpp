@@ -4,11 +4,15 @@
 #include "fem/beam_assembly.h"
 #include "fem/beam_limit.h"
 #include "fem/beam_supports.h"
+#include "fem/finite_results.h"
 #include "fem/spring_lumping.h"
 #include "ostrel/fem_solver.h"
+#include "services/exact.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <vector>
@@ -24,6 +28,9 @@ double across(const std::vector<double>& d, int node) {
   const std::size_t dof = ostrel::fem::dof_within(d.size(), node, 1);
   return dof < d.size() ? d[dof] : 0.0;
 }
+
+// A solution that swings between states ends after so many passes, however many are allowed.
+constexpr std::int32_t most_passes = 100'000;
 
 struct Convergence {
   bool reached = false;
@@ -42,7 +49,8 @@ Convergence compare_passes(const SpringLine& line, const std::vector<double>& pr
     if (std::abs(b) > line.spring(i).getDyLim()) ++beyond_limit;
   }
   Convergence result;
-  result.reached = tolerance >= sum;
+  // Springs that stand still give the same pass again, whatever the tolerance.
+  result.reached = tolerance >= sum || ostrel::exactly_equal(sum, 0.0);
   if (beyond_limit == line.size()) result.code = errNonLinearNotConverged;
   return result;
 }
@@ -160,6 +168,7 @@ public:
   }
 
   OstrelErrorType run(const xFemSolverOptions& options) {
+    const int most = std::min(options.maxIterations, most_passes);
     std::vector<double> previous(rhs_.size(), 0.0);
     for (int passes = 0;; previous.swap(d)) {
       line_.evaluate(previous, soil.stiffness);
@@ -172,7 +181,7 @@ public:
       const Convergence test = compare_passes(line_, previous, d, options.tolerance);
       if (test.code != ostrel::ok) return test.code;
       ++passes;
-      if (test.reached || passes >= options.maxIterations) return ostrel::ok;
+      if (test.reached || passes >= most) return ostrel::ok;
     }
   }
 
@@ -243,7 +252,8 @@ OstrelErrorType xFemSolver::solve(xFemSolverOptions& options,
   if (code == ostrel::ok) code = getSoilReaction(options.linear, modulus, d, result.soilReactions);
   if (code == ostrel::ok) code = getBeamStress(data, d, total_elem_loads, result.beamStress);
   if (code == ostrel::ok) code = getNodalForce(total, d, result.nodalForces);
-  return code;
+  if (code != ostrel::ok) return code;
+  return ostrel::fem::is_finite(result) ? ostrel::ok : errEquationSolve;
 }
 
 OstrelErrorType xFemSolver::build_SkSpring(const xFemData& data,

@@ -90,6 +90,16 @@ TEST_F(Combination, RefusesACapBeamWhoseWeightIsNotANumber) {
   EXPECT_EQ(solve(), errEquationSolve);
 }
 
+// A limit pressure without a limit has no resultant.
+TEST_F(Combination, RefusesSpringsWithoutALimit) {
+  build();
+  for (auto& [node, spring] : result.subgradeModulus.springs) {
+    spring.type = xSpringInterval::limitUltimate;
+    spring.ultimate_limit = std::numeric_limits<double>::infinity();
+  }
+  EXPECT_EQ(solve(), errEquationSolve);
+}
+
 TEST_F(Combination, WithEveryActionOffMovesNothing) {
   build();
   set_active({false, false, false});

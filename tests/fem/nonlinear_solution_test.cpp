@@ -186,6 +186,18 @@ TEST(Solve, NeverEndsEarlyByAToleranceThatCannotBeReached) {
   }
 }
 
+// Without a bound the passes would be 2^31.
+TEST(Solve, EndsHoweverManyPassesAreAllowed) {
+  for (const double tolerance : {-1.0, std::nan("")}) {
+    SpringBeam beam = yielding_head();
+    beam.options.tolerance = tolerance;
+    beam.options.maxIterations = std::numeric_limits<std::int32_t>::max();
+    xCombRes result;
+    ASSERT_EQ(beam.solve(result), ostrel::ok);
+    EXPECT_NEAR(across(result, 0), 3.4, 1e-12);
+  }
+}
+
 // A node above the excavation moves by 1000, and the head of the springs by 500 along the wall: of
 // the changes only the 3 of dof 1 at the springs count.
 TEST(Solve, ComparesThePassesAtTheSpringsAlone) {
