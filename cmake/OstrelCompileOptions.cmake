@@ -24,3 +24,11 @@ if(OSTREL_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(ostrel_options INTERFACE -fsanitize=address,undefined)
 endif()
+
+# Everything tells the fuzzing programs which way it took; other programs take no notice.
+if(OSTREL_BUILD_FUZZERS)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    message(FATAL_ERROR "OSTREL_BUILD_FUZZERS needs clang, and this is ${CMAKE_CXX_COMPILER_ID}")
+  endif()
+  target_compile_options(ostrel_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
