@@ -131,8 +131,7 @@ Json changed(const Json& number, unsigned char way, unsigned char value) {
                               : -std::numeric_limits<double>::infinity();
   }
   // A whole number stays one as long as it can: else only its refusal would be tried.
-  if (number.is_number_integer() && std::abs(result) < 1e18
-      && std::trunc(result) == std::floor(result))
+  if (number.is_number_integer() && std::abs(result) < 1e18)
     return static_cast<std::int64_t>(result);
   return result;
 }
@@ -191,7 +190,8 @@ void run_project(const std::string& text) {
   promise(!host::run_report(data, problems.texts()).empty(), "a report has a text");
   promise(host::read_saved(host::saved_bytes(data, outcome.results), problems).has_value(),
           "saved results are read");
-  promise(!host::result_files(*project, job, outcome).empty(), "results go into files");
+  promise(!host::result_files(*project, job, outcome, host::Language::english).empty(),
+          "results go into files");
 }
 
 void run_case(const std::string& text) {
