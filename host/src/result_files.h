@@ -18,10 +18,10 @@ struct ResultFile {
   std::string contents;
 };
 
-/// All results as JSON in the library's units ("result.json"), the largest values of every
-/// combination ("summary.csv"), and three tables for each combination in engineering units: along
-/// the wall, of the springs, and of the pressures. Their names begin with the combination's number.
-/// Then each figure as plotly draws it, its texts in one language, in a folder of its own.
+/// All results as JSON in the library's units ("result.json"), a CSV file for each table of
+/// result_tables.h, and these tables together ("tables.json"). The names of what belongs to one
+/// combination begin with its number. Then each figure as plotly draws it, its texts in one language,
+/// in a folder of its own.
 std::vector<ResultFile> result_files(const Project& project, const Job& job, const Outcome& outcome,
                                      Language language);
 
