@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "command_line.h"
 
+#include "command_batch.h"
 #include "command_check.h"
 #include "command_core.h"
+#include "command_description.h"
+#include "command_export.h"
 #include "command_new.h"
 #include "command_report.h"
 #include "command_run.h"
 #include "command_show.h"
+#include "completion.h"
+#include "manual_page.h"
+#include "phrases.h"
 #include "schema_validation.h"
+#include "tables_json.h"
 #include "texts.h"
 
 #include <ostrel/language.h>
@@ -25,6 +32,8 @@ namespace ostrel::host {
 
 namespace {
 
+constexpr int most_threads = 1024;
+
 // The language asked for, wherever it stands: the descriptions of the options need it before they
 // are read.
 std::optional<Language> asked_language(const std::vector<std::string>& arguments) {
@@ -41,6 +50,10 @@ std::string described(const Texts& texts, Text text) {
   return std::string(texts(text));
 }
 
+std::string described(const Texts& texts, const Phrase& phrase) {
+  return std::string(phrase.in(texts));
+}
+
 class Program {
 public:
   Program(std::optional<Language> asked, std::ostream& out, std::ostream& err)
@@ -55,14 +68,18 @@ public:
     app_.add_option("--lang", language_, described(texts_, Text::language_line))
         ->check(CLI::IsMember({"it", "en"}))
         ->type_name("");
+    app_.add_flag("-q,--quiet", quiet_, described(texts_, phrase::quiet_line));
     add_run();
     add_check(check_, "check", Text::check_line);
     add_check(expand_, "expand", Text::expand_line);
     add_new();
-    schema_ = app_.add_subcommand("schema", described(texts_, Text::schema_line));
     add_report();
+    add_schema();
     add_core();
     add_show();
+    add_batch();
+    add_export();
+    add_completion();
   }
 
   int run(std::vector<std::string> arguments) {
@@ -75,17 +92,72 @@ public:
     const bool is_core = core_->parsed();
     ostrel::set_language(code_of(is_core ? core_options_.texts.language() : texts_.language()));
     if (is_core) return run_core(core_options_, out_, err_);
-    if (run_->parsed()) return run_project(run_options_, out_, err_);
-    if (show_->parsed()) return show_results(show_options_, out_, err_);
-    if (report_->parsed()) return report_project(report_options_, out_, err_);
-    if (check_->parsed()) return check_project_file(check_options_, out_, err_);
     if (expand_->parsed()) return expand_project_file(check_options_, out_, err_);
-    if (new_->parsed()) return write_template(new_options_, out_, err_);
-    out_ << project_schema();
-    return exit_fine;
+    if (schema_->parsed())
+      return print(which_schema_ == "results" ? results_schema() : project_schema());
+    if (completion_->parsed()) return print(completion());
+    if (manual_->parsed()) return print(manual_page(description_of(app_), texts_));
+    std::ostream nowhere(nullptr);
+    run_options_.quiet = quiet_;
+    if (quiet_ && batch_options_.progress == "auto") batch_options_.progress = "none";
+    return run_telling(quiet_ ? nowhere : out_);
   }
 
 private:
+  // The commands whose output nobody needs to read.
+  int run_telling(std::ostream& out) {
+    if (run_->parsed()) return run_project(run_options_, out, err_);
+    if (batch_->parsed()) return run_batch(batch_options_, out, err_);
+    if (export_->parsed()) return export_project(export_options_, out, err_);
+    if (report_->parsed()) return report_project(report_options_, out, err_);
+    if (show_->parsed()) return show_results(show_options_, out, err_);
+    if (check_->parsed()) return check_project_file(check_options_, out, err_);
+    return write_template(new_options_, out, err_);
+  }
+
+  int print(std::string_view text) {
+    out_ << text;
+    return exit_fine;
+  }
+
+  std::string completion() {
+    const CommandDescription program = description_of(app_);
+    if (shell_ == "bash") return bash_completion(program);
+    return shell_ == "zsh" ? zsh_completion(program) : fish_completion(program);
+  }
+
+  void add_schema() {
+    schema_ = app_.add_subcommand("schema", described(texts_, Text::schema_line));
+    schema_->add_option("WHICH", which_schema_, described(texts_, phrase::which_schema))
+        ->check(CLI::IsMember({"project", "results"}))
+        ->type_name("");
+  }
+
+  void add_export() {
+    export_options_.texts = texts_;
+    export_ = app_.add_subcommand("export", described(texts_, phrase::export_line));
+    export_
+        ->add_option("PROJECT.json", export_options_.project_file,
+                     described(texts_, Text::file_of_project))
+        ->required();
+    const auto add_target = [this](const char* name, std::string& file, const Phrase& description) {
+      export_->add_option(name, file, described(texts_, description))->type_name("FILE");
+    };
+    add_target("--xlsx", export_options_.workbook_file, phrase::file_for_workbook);
+    add_target("--json", export_options_.tables_file, phrase::file_for_tables);
+    add_target("--pdf", export_options_.print_file, phrase::file_for_print);
+    add_presets(*export_, export_options_.presets_file);
+  }
+
+  void add_completion() {
+    completion_ = app_.add_subcommand("completion", described(texts_, phrase::completion_line));
+    completion_->add_option("SHELL", shell_, described(texts_, phrase::name_of_shell))
+        ->check(CLI::IsMember({"bash", "zsh", "fish"}))
+        ->type_name("")
+        ->required();
+    manual_ = app_.add_subcommand("manual", described(texts_, phrase::manual_line));
+  }
+
   // What a limit should be instead; empty where it is.
   std::string what_is_wrong_with_limit(const std::string& text) const {
     const double limit = std::strtod(text.c_str(), nullptr);
@@ -110,6 +182,7 @@ private:
         ->type_name("DIR");
     run_->add_option("--save", run_options_.results_file, described(texts_, Text::file_to_save))
         ->type_name("FILE");
+    run_->add_flag("--verbose", run_options_.verbose, described(texts_, phrase::verbose_line));
     add_limit(run_, run_options_.fail_below);
     run_->add_option("--report", run_options_.report_file, described(texts_, Text::file_for_report))
         ->type_name("FILE");
@@ -178,6 +251,29 @@ private:
     add_limit(show_, show_options_.fail_below);
   }
 
+  void add_batch() {
+    batch_options_.texts = texts_;
+    batch_ = app_.add_subcommand("batch", described(texts_, phrase::batch_line));
+    batch_
+        ->add_option("PROJECT.json", batch_options_.project_files,
+                     described(texts_, phrase::files_of_projects))
+        ->required();
+    batch_->add_option("-j,--jobs", batch_options_.threads, described(texts_, phrase::threads_line))
+        ->check(CLI::Range(1, most_threads))
+        ->type_name("N");
+    batch_
+        ->add_option("-o,--output", batch_options_.folder,
+                     described(texts_, phrase::folder_for_batch))
+        ->type_name("DIR");
+    batch_
+        ->add_option("--progress", batch_options_.progress,
+                     described(texts_, phrase::progress_line))
+        ->check(CLI::IsMember({"auto", "none", "plain", "json"}))
+        ->type_name("");
+    add_limit(batch_, batch_options_.fail_below);
+    add_presets(*batch_, batch_options_.presets_file);
+  }
+
   std::optional<Language> asked_;
   Texts texts_;
   std::ostream& out_;
@@ -188,12 +284,21 @@ private:
   RunOptions run_options_;
   CLI::App* show_ = nullptr;
   ShowOptions show_options_;
+  CLI::App* batch_ = nullptr;
+  BatchOptions batch_options_;
   CLI::App* check_ = nullptr;
   CLI::App* expand_ = nullptr;
   CheckOptions check_options_;  // of either
   CLI::App* new_ = nullptr;
   NewOptions new_options_;
+  CLI::App* export_ = nullptr;
+  ExportOptions export_options_;
   CLI::App* schema_ = nullptr;
+  std::string which_schema_ = "project";
+  CLI::App* completion_ = nullptr;
+  std::string shell_;
+  CLI::App* manual_ = nullptr;
+  bool quiet_ = false;
   CLI::App* core_ = nullptr;
   CLI::App* report_ = nullptr;
   ReportOptions report_options_;

@@ -6,14 +6,22 @@
 #include "command_line.h"
 #include "command_report.h"
 #include "command_show.h"
+#include "equilibrium.h"
+#include "phrases.h"
 #include "project_conversion.h"
 #include "project_loading.h"
-#include "result_files.h"
+#include "result_folder.h"
 #include "results_file.h"
 #include "run_data.h"
 #include "system_reason.h"
+#include "terminal.h"
+#include "text_table.h"
+#include "units.h"
+#include "waiting_line.h"
 
-#include <filesystem>
+#include <fmt/format.h>
+
+#include <chrono>
 #include <optional>
 #include <ostream>
 #include <system_error>
@@ -22,27 +30,24 @@ namespace ostrel::host {
 
 namespace {
 
-namespace fs = std::filesystem;
-
-// Makes the folders and tries to write, before the analysis.
-std::error_code prepare(const std::string& folder) {
-  std::error_code error;
-  fs::create_directories(folder, error);
-  if (!error) fs::create_directories(fs::path(folder) / figure_folder, error);
-  return error ? error : try_writing((fs::path(folder) / "result.json").string());
+Outcome watched_analysis(const Job& job, const RunOptions& options, std::ostream& err) {
+  const WaitingLine line(err, options.texts, job.data.loadCombs.size(),
+                         is_terminal(err) && !options.quiet);
+  return analyse(job);
 }
 
-// @return whether all files are written; the one that is not is told
-bool write_files(const RunOptions& options, const std::vector<ResultFile>& files,
-                 std::ostream& err) {
-  for (const ResultFile& file : files) {
-    const std::string path = (fs::path(options.folder) / file.name).string();
-    if (const std::error_code error = write_whole(path, file.contents)) {
-      err << options.texts(Text::cannot_write, path, reason_of(error, options.texts)) << "\n";
-      return false;
-    }
+// Time and equilibrium, for those who asked for more than the tables.
+void tell_more(const Job& job, const Outcome& outcome, double seconds, const Texts& texts,
+               std::ostream& err) {
+  err << phrase::analysed_in.in(texts, fmt::format("{:.2f}", seconds)) << "\n";
+  for (const xCombResults& combination : outcome.results.combResults) {
+    const ForceSum residual = balance_of(job, outcome, combination).residual();
+    const std::string line = phrase::out_of_balance.in(
+        texts, combination.getCombName(), fmt::format("{:.1e}", kn_of_n(residual.across)),
+        fmt::format("{:.1e}", kn_of_n(residual.along)),
+        fmt::format("{:.1e}", knm_of_nmm(residual.moment)));
+    err << fitted(line, columns_of(line)) << "\n";
   }
-  return true;
 }
 
 }  // namespace
@@ -58,7 +63,8 @@ int run_project(const RunOptions& options, std::ostream& out, std::ostream& err)
   const bool to_files = !options.folder.empty();
   const bool to_save = !options.results_file.empty();
   if (to_files) {
-    if (const auto error = prepare(options.folder)) return cannot_write(options.folder, error);
+    if (const auto error = prepare_results(options.folder))
+      return cannot_write(options.folder, error);
   }
   if (to_save) {
     if (const auto error = try_writing(options.results_file))
@@ -66,12 +72,16 @@ int run_project(const RunOptions& options, std::ostream& out, std::ostream& err)
   }
   if (!may_write_report(options.report_file, options.texts, err)) return exit_bad_input;
   const Job job = to_job(*project);
-  const Outcome outcome = analyse(job);
+  const auto start = std::chrono::steady_clock::now();
+  const Outcome outcome = watched_analysis(job, options, err);
+  const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
   const RunData data = run_data_of(*project, job, outcome);
   const int status = print_run(data, options.fail_below, options.texts, out, err);
+  if (options.verbose) tell_more(job, outcome, time.count(), options.texts, err);
   if (to_files) {
-    if (!write_files(options, result_files(*project, job, outcome, options.texts.language()), err))
-      return exit_bad_input;
+    if (const auto failure =
+            write_results(options.folder, *project, job, outcome, options.texts.language()))
+      return cannot_write(failure->file, failure->error);
     out << "\n" << options.texts(Text::written_to, options.folder) << "\n";
   }
   if (to_save) {

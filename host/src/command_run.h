@@ -17,6 +17,8 @@ struct RunOptions {
   std::string report_file;           ///< for the report; empty for none
   std::string results_file;          ///< to save the results in; empty for none
   std::optional<double> fail_below;  ///< the factor that every verification has to reach
+  bool verbose = false;              ///< also time and equilibrium
+  bool quiet = false;                ///< nothing but errors
   Texts texts{Language::english};
 };
 

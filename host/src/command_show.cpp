@@ -6,7 +6,9 @@
 #include "problems.h"
 #include "results_file.h"
 #include "run_report.h"
+#include "terminal.h"
 #include "text_table.h"
+#include "verdict_colours.h"
 #include "verification_table.h"
 
 #include <ostream>
@@ -28,7 +30,8 @@ int print_run(const RunData& data, const std::optional<double>& fail_below, cons
               std::ostream& out, std::ostream& err) {
   for (const std::string& note : data.notes)
     out << fitted(note, columns_of(note)) << "\n";
-  out << run_report(data, texts);
+  const std::string report = run_report(data, texts);
+  out << (wants_colour(out) ? with_coloured_verdicts(report, texts) : report);
   for (const std::string& message : data.messages)
     err << fitted(message, columns_of(message)) << "\n";
   const std::string below = fail_below ? lines_below(data, *fail_below, texts) : std::string();

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: Apache-2.0
+// Exports as a user calls them; a workbook is opened by a reader of its own kind of archive.
+#include "command_export.h"
+
+#include "command_line.h"
+#include "host_testing.h"
+
+#include <gmock/gmock.h>
+
+#include <sstream>
+
+namespace ostrel::host {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using Json = nlohmann::json;
+
+// Prints the title, the names of the sheets and the count of charts, and fails where a part is not
+// well-formed.
+constexpr const char* reader = R"(import sys, zipfile
+import xml.etree.ElementTree as tree
+book = zipfile.ZipFile(sys.argv[1])
+assert book.testzip() is None
+for part in book.namelist():
+    if part.endswith((".xml", ".rels")):
+        tree.fromstring(book.read(part))
+names = "{http://schemas.openxmlformats.org/spreadsheetml/2006/main}sheet"
+print(*[s.get("name") for s in tree.fromstring(book.read("xl/workbook.xml")).iter(names)], sep="|")
+print(sum(part.startswith("xl/charts/chart") for part in book.namelist()))
+)";
+
+class CommandExport : public ::testing::Test {
+protected:
+  void run(std::vector<std::string> arguments) {
+    std::ostringstream out;
+    std::ostringstream err;
+    arguments.insert(arguments.begin(), {"export", project_});
+    status_ = run_program(arguments, out, err);
+    out_ = out.str();
+    err_ = err.str();
+  }
+  std::string file(const std::string& name) const { return (folder_ / name).string(); }
+  // What the reader prints.
+  std::string read(const std::string& name) {
+    const std::string script = folder_.write("reader.py", reader).string();
+    const std::string command =
+        "python3 '" + script + "' '" + file(name) + "' >'" + file("printed") + "'";
+    EXPECT_EQ(std::system(command.c_str()), 0);
+    return contents_of(folder_ / "printed");
+  }
+
+  TemporaryFolder folder_;
+  std::string project_ = folder_.write("p.json", sound_project().dump()).string();
+  int status_ = -1;
+  std::string out_;
+  std::string err_;
+};
+
+// Three charts along the wall, two of springs, one of pressures.
+TEST_F(CommandExport, MakesAWorkbookWithASheetForEachTableAndCharts) {
+  run({"--xlsx", file("w.xlsx"), "--lang", "en"});
+  EXPECT_EQ(status_, exit_fine) << err_;
+  EXPECT_THAT(out_, HasSubstr("w.xlsx"));
+  EXPECT_EQ(read("w.xlsx"),
+            "Summary|Verifications|Sections|Reinforcement|Anchors|Equilibrium|01 Wall|01 Springs|"
+            "01 Pressures\n6\n");
+}
+
+TEST_F(CommandExport, NamesSheetsInTheLanguageAskedFor) {
+  run({"--xlsx", file("w.xlsx"), "--lang", "it"});
+  EXPECT_THAT(read("w.xlsx"), HasSubstr("Riepilogo|Verifiche"));
+}
+
+TEST_F(CommandExport, TakesNamesThatMarkupHasToEscape) {
+  Json json = sound_project();
+  json["name"] = "<wall> & \x01 'sons'";
+  json["soils"][0]["name"] = "<sand> & \"gravel\"";
+  json["ground"]["layers"][0]["soil"] = json["soils"][0]["name"];
+  project_ = folder_.write("q.json", json.dump()).string();
+  run({"--xlsx", file("w.xlsx"), "--lang", "en"});
+  EXPECT_EQ(status_, exit_fine) << err_;
+  EXPECT_THAT(read("w.xlsx"), HasSubstr("Summary"));
+}
+
+TEST_F(CommandExport, WritesTheTablesAsJson) {
+  run({"--json", file("t.json"), "--lang", "en"});
+  EXPECT_EQ(status_, exit_fine) << err_;
+  EXPECT_EQ(Json::parse(contents_of(folder_ / "t.json"))["format"], 1);
+}
+
+TEST_F(CommandExport, AsksForAForm) {
+  run({"--lang", "en"});
+  EXPECT_EQ(status_, exit_bad_input);
+  EXPECT_THAT(err_, HasSubstr("--xlsx"));
+}
+
+TEST_F(CommandExport, TellsWhereItCannotWrite) {
+  run({"--xlsx", file("missing/w.xlsx"), "--lang", "en"});
+  EXPECT_EQ(status_, exit_bad_input);
+  EXPECT_THAT(err_, HasSubstr("no such file"));
+  EXPECT_THAT(out_, IsEmpty());
+}
+
+TEST_F(CommandExport, SaysNothingWhenQuiet) {
+  run({"--json", file("t.json"), "--quiet"});
+  EXPECT_EQ(status_, exit_fine);
+  EXPECT_THAT(out_, IsEmpty());
+  EXPECT_TRUE(std::filesystem::exists(folder_ / "t.json"));
+}
+
+TEST_F(CommandExport, ToldByARunInMoreWordsHasItsEquilibrium) {
+  std::ostringstream out;
+  std::ostringstream err;
+  ASSERT_EQ(run_program({"run", project_, "--verbose", "--lang", "en"}, out, err), exit_fine);
+  EXPECT_THAT(err.str(), HasSubstr("Analysis: "));
+  EXPECT_THAT(err.str(), ::testing::ContainsRegex("C: out of balance by -?[0-9.]+e-[0-9]+ kN"));
+}
+
+}  // namespace
+}  // namespace ostrel::host
