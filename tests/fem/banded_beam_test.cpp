@@ -287,7 +287,9 @@ TEST(BandedBeam, AgreesWithTheDenseForm) {
       element.setL(random.on_grid(100.0, 400.0));
       element.setJ(random.on_grid(1e8, 4e8));
     }
-    const auto node = [&] { return static_cast<int>(random.below(elements + 1U)); };
+    const auto node = [&] {
+      return static_cast<int>(random.below(static_cast<unsigned>(elements) + 1U));
+    };
     beam.data.springDof0[node()] = random.on_grid(1.0, 1e6);
     beam.data.springDof1[node()] = random.on_grid(1.0, 1e6);
     beam.data.springDof2[node()] = random.on_grid(1.0, 1e6);

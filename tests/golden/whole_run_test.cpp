@@ -36,12 +36,12 @@ std::vector<std::string> case_names(bool of_slip_circles) {
 }
 
 std::string contents(const fs::path& file) {
-  Problems problems(Texts(Language::english));
+  Problems problems{Texts(Language::english)};
   return read_file(file.string(), problems).value_or("");
 }
 
 Outcome run_case(const std::string& name) {
-  Problems problems(Texts(Language::english));
+  Problems problems{Texts(Language::english)};
   const std::string text = contents(data / "cases" / (name + ".json"));
   const auto job = read_core_case(text, problems);
   EXPECT_EQ(problems.report(name, text), "");

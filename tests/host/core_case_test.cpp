@@ -80,7 +80,7 @@ struct CaseOutcome {
 };
 
 CaseOutcome read_text(const std::string& text) {
-  Problems problems(Texts(Language::english));
+  Problems problems{Texts(Language::english)};
   CaseOutcome outcome;
   outcome.job = read_core_case(text, problems);
   outcome.errors = problems.errors();

@@ -36,7 +36,7 @@ void expect_balance(const Project& project) {
 class ExampleBalance : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(ExampleBalance, Holds) {
-  Problems problems(Texts(Language::english));
+  Problems problems{Texts(Language::english)};
   const auto project = read_project(contents_of(GetParam()), problems);
   ASSERT_TRUE(project.has_value());
   EXPECT_TRUE(problems.remarks().empty());

@@ -96,7 +96,7 @@ struct ReadingOutcome {
 };
 
 inline ReadingOutcome read(const nlohmann::json& project) {
-  Problems problems(Texts(Language::english));
+  Problems problems{Texts(Language::english)};
   ReadingOutcome outcome;
   outcome.project = read_project(project.dump(), problems);
   outcome.errors = problems.errors();

@@ -43,7 +43,7 @@ Json anchored(const char* standard, bool permanent) {
 }
 
 Json expanded(Json project) {
-  Problems problems(Texts(Language::english));
+  Problems problems{Texts(Language::english)};
   expand_presets(project, built_in_presets(), problems);
   EXPECT_THAT(problems.errors(), IsEmpty());
   return project;
@@ -264,7 +264,7 @@ TEST(Presets, CanBeReplacedByAFile) {
   own["standards"]["OURS"] = own["standards"]["NTC2008"];
   own["standards"]["OURS"]["actions"]["A1"]["permanent"]["unfavourable"] = 1.7;
   const std::string file = folder.write("own.json", own.dump()).string();
-  Problems problems(Texts(Language::english));
+  Problems problems{Texts(Language::english)};
   const auto presets = read_presets(file, problems);
   ASSERT_TRUE(presets.has_value());
   Json project = by("OURS");
@@ -275,7 +275,7 @@ TEST(Presets, CanBeReplacedByAFile) {
 TEST(Presets, RefuseFilesThatAreNone) {
   const TemporaryFolder folder;
   for (const char* text : {"", "{", "[]", "{\"standards\": 3}"}) {
-    Problems problems(Texts(Language::english));
+    Problems problems{Texts(Language::english)};
     EXPECT_FALSE(read_presets(folder.write("own.json", text).string(), problems).has_value());
     EXPECT_THAT(problems.errors(), SizeIs(1)) << text;
   }
@@ -283,7 +283,7 @@ TEST(Presets, RefuseFilesThatAreNone) {
 
 TEST(Presets, TellAFileWhoseStandardIsIncomplete) {
   Json project = by("NTC2008");
-  Problems problems(Texts(Language::english));
+  Problems problems{Texts(Language::english)};
   expand_presets(project, {{"standards", {{"NTC2008", {{"title", "half"}}}}}}, problems);
   EXPECT_THAT(problems.errors(), ElementsAre(Field(&Problem::path, "standard")));
 }
@@ -299,7 +299,7 @@ TEST(Presets, SurviveProjectsThatAreWrong) {
   }
   for (const char* text : {"3", "[]", "null"}) {
     Json project = Json::parse(text);
-    Problems problems(Texts(Language::english));
+    Problems problems{Texts(Language::english)};
     EXPECT_NO_THROW(expand_presets(project, built_in_presets(), problems));
   }
 }

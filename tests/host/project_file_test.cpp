@@ -214,7 +214,7 @@ TEST(ProjectFile, RefusesACommentThatIsNoText) {
 
 TEST(ProjectFile, IsNoTreeWithoutAnObject) {
   for (const char* text : {"3", "[]", "null", "\"x\""}) {
-    Problems problems(Texts(Language::english));
+    Problems problems{Texts(Language::english)};
     EXPECT_FALSE(read_project(text, problems).has_value());
     ASSERT_THAT(problems.errors(), SizeIs(1)) << text;
     EXPECT_EQ(problems.errors()[0].path, "");

@@ -131,7 +131,7 @@ std::vector<Json> projects_of_all_kinds() {
 TEST(ProjectSchema, KnowsTheFieldsThatTheReaderKnows) {
   std::set<std::string> asked;
   for (const Json& project : projects_of_all_kinds()) {
-    Problems problems(Texts(Language::english));
+    Problems problems{Texts(Language::english)};
     EXPECT_TRUE(read_project(project.dump(), problems, {.asked = &asked}).has_value())
         << problems.report("p", project.dump());
   }
@@ -183,7 +183,7 @@ TEST(CheckSchema, LeavesToTheReaderWhatItTold) {
 }
 
 TEST(CheckSchema, TellsWhatNobodyTold) {
-  Problems problems(Texts(Language::english));
+  Problems problems{Texts(Language::english)};
   problems.add("wall.length_m", "0", "more");
   Json project = sound_project();
   project["wall"]["length_m"] = 0;

@@ -65,7 +65,8 @@ TYPED_TEST(WallLoads, CloneToTheirExactClassWithACountOfTheirOwn) {
   const osg::ref_ptr<TypeParam> load = new TypeParam(sample_load<TypeParam>());
   const xBaseLoad& base = *load;
   const std::unique_ptr<xBaseLoad> copy(base.clone());
-  ASSERT_EQ(typeid(*copy), typeid(TypeParam));
+  const xBaseLoad& copied = *copy;
+  ASSERT_EQ(typeid(copied), typeid(TypeParam));
   EXPECT_EQ(copy->referenceCount(), 0);
   EXPECT_EQ(load->referenceCount(), 1);
   EXPECT_EQ(copy->id, 7);
