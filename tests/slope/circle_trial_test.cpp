@@ -2,6 +2,7 @@
 #include "slope/circle_trial.h"
 
 #include "ostrel/slope_stability.h"
+#include "support/no_allocation.h"
 #include "support/random_contents.h"
 #include "support/wavy_ground.h"
 
@@ -9,32 +10,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
-#include <new>
-
-namespace {
-
-[[maybe_unused]] std::size_t allocations = 0;
-
-}  // namespace
-
-// Every allocation of this program is counted. A sanitizer does its own counting.
-#if !defined(__SANITIZE_ADDRESS__)
-#if defined(__GNUC__) && !defined(__clang__)
-#pragma GCC diagnostic ignored "-Wmismatched-new-delete"
-#endif
-void* operator new(std::size_t size) {
-  ++allocations;
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
-  throw std::bad_alloc();
-}
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
-#endif
 
 namespace {
 
@@ -176,7 +151,6 @@ TEST(CircleTrial, MeasuresCornersThatAreTooNearToTell) {
   }
 }
 
-#if !defined(__SANITIZE_ADDRESS__)
 TEST(CircleTrial, AllocatesNothingOnceItsListsHaveGrown) {
   const WavyGround ground;
   const Stripes stripes = cut_ground(ground, 500);
@@ -188,12 +162,10 @@ TEST(CircleTrial, AllocatesNothingOnceItsListsHaveGrown) {
     }
   };
   try_all();
-  const std::size_t before = allocations;
-  EXPECT_GT(before, 0U);
+  const ostrel::testing::AllocationCount allocations;
   try_all();
-  EXPECT_EQ(allocations, before);
+  EXPECT_EQ(allocations.since(), 0);
   EXPECT_GT(sum, 0.0);
 }
-#endif
 
 }  // namespace

@@ -10,7 +10,15 @@
 namespace ostrel::testing {
 
 /// Sanitizers bring an operator new of their own, and nothing is counted there.
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define OSTREL_TESTS_ARE_SANITIZED
+#endif
+#elif defined(__SANITIZE_ADDRESS__)
+#define OSTREL_TESTS_ARE_SANITIZED
+#endif
+
+#if defined(OSTREL_TESTS_ARE_SANITIZED)
 inline constexpr bool allocations_are_counted = false;
 #else
 inline constexpr bool allocations_are_counted = true;
@@ -31,7 +39,7 @@ private:
 
 }  // namespace ostrel::testing
 
-#if !defined(__SANITIZE_ADDRESS__)
+#if !defined(OSTREL_TESTS_ARE_SANITIZED)
 
 // Weak, so that several files of a program may include this header.
 __attribute__((weak)) void* operator new(std::size_t size) {
