@@ -17,7 +17,8 @@ Json ground_of(const std::vector<Json>& polygons) {
   Json project = sound_project();
   project["ground"] = {{"layers", Json::array()}};
   for (const Json& polygon : polygons) {
-    project["ground"]["layers"].push_back({{"soil", "sand"}, {"polygons_m", {polygon}}});
+    project["ground"]["layers"].push_back(
+        {{"soil", "sand"}, {"polygons_m", Json::array({polygon})}});
   }
   return project;
 }

@@ -16,7 +16,7 @@ using Json = nlohmann::json;
 
 std::vector<xLoadCond> conditions_of(const Json& load) {
   Json project = sound_project();
-  project["loads"] = {load};
+  project["loads"] = Json::array({load});
   project["combinations"][0]["actions"] = Json::object();
   return to_job(project_of(project)).data.loadConds;
 }
@@ -154,7 +154,7 @@ double head(const Json& project) {
 
 Json pushed(const Json& wall_load) {
   Json project = sound_project();
-  project["loads"] = {{{"name", "Q"}, {"on_wall", {wall_load}}}};
+  project["loads"] = Json::array({{{"name", "Q"}, {"on_wall", Json::array({wall_load})}}});
   return project;
 }
 

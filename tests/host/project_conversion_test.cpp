@@ -164,7 +164,7 @@ TEST(ConvertedLayers, CloseTheirPolygonsOnce) {
   Json closed = open;
   closed.push_back(open[0]);
   for (const Json& polygon : {open, closed}) {
-    project["ground"] = {{"layers", {{{"soil", "sand"}, {"polygons_m", {polygon}}}}}};
+    project["ground"] = {{"layers", {{{"soil", "sand"}, {"polygons_m", Json::array({polygon})}}}}};
     EXPECT_THAT(data_of(project).soilLayers[0].polygons[0], SizeIs(5));
   }
 }

@@ -16,7 +16,7 @@ using ::testing::SizeIs;
 using Json = nlohmann::json;
 
 Json checking(const char* check) {
-  return with("/combinations/0/checks", {check});
+  return with("/combinations/0/checks", Json::array({check}));
 }
 
 void expect_missed(const Json& project, const std::string& path, const std::string& allowed) {
@@ -44,7 +44,7 @@ Json anchor() {
 Json anchored(const char* check, const char* without_field) {
   Json project = checking(check);
   project["combinations"][0]["resistance_factors"] = {{"anchors", 1.1}};
-  project["anchors"] = {anchor()};
+  project["anchors"] = Json::array({anchor()});
   project["anchors"][0].erase(without_field);
   return project;
 }
