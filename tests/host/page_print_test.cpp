@@ -16,7 +16,6 @@ namespace fs = std::filesystem;
 using ::testing::AllOf;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-using ::testing::StartsWith;
 
 // A PATH for the time of a test.
 class Path {
@@ -94,12 +93,12 @@ TEST_F(PagePrint, EndsABrowserThatDoesNot) {
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(60));
 }
 
-TEST(PagePrintBrowser, PrintsWhereOneIsInstalled) {
+// Without one there is nothing to start, which is told as a failure and leaves no bytes.
+TEST(PagePrintBrowser, PrintsWhereOneIsInstalledAndFailsWhereNoneIs) {
   const std::string browser = found_browser();
-  if (browser.empty()) GTEST_SKIP() << "none of " << browser_names();
   const Print print = print_page(browser, "<!doctype html><title>t</title><p>wall</p>", 120);
-  EXPECT_EQ(print.problem, PrintProblem::none);
-  EXPECT_THAT(print.bytes, StartsWith("%PDF-"));
+  EXPECT_EQ(print.problem, browser.empty() ? PrintProblem::failed : PrintProblem::none);
+  EXPECT_EQ(print.bytes.substr(0, 5), browser.empty() ? "" : "%PDF-");
 }
 
 }  // namespace
