@@ -22,8 +22,10 @@ using ostrel::testing::circle;
 using ostrel::testing::common_settings;
 using ostrel::testing::unfactored;
 
-/// Moments of half a wave down the wall, up to 500 kNm in the last combination.
-xCombResults forces(int combination, std::int64_t elements) {
+/// Moments of half a wave down the wall: from 250 kNm in the middle up to 500 kNm in the last of
+/// the combinations, however many they are.
+xCombResults forces(int combination, int combinations, std::int64_t elements) {
+  const double largest_moment = 250e6 * (1.0 + (combination + 1.0) / combinations);
   xCombResults result;
   result.setCombName("combination " + std::to_string(combination));
   const double length = 20'000.0 / static_cast<double>(elements);
@@ -32,7 +34,7 @@ xCombResults forces(int combination, std::int64_t elements) {
       const double wave = std::sin(std::numbers::pi * z / 20'000.0);
       result.femResults.axial.points.emplace_back(z, -200e3 - 5.0 * z);
       result.femResults.shear.points.emplace_back(z, 100e3 * std::cos(z / 5'000.0));
-      result.femResults.moment.points.emplace_back(z, wave * (250e6 + 50e6 * combination));
+      result.femResults.moment.points.emplace_back(z, wave * largest_moment);
     }
   }
   return result;
@@ -48,7 +50,7 @@ struct Wall {
     comb.checks[checkWallStructure] = true;
     std::vector<xCombResults> results;
     for (int i = 0; i < combinations; ++i)
-      results.push_back(forces(i, elements));
+      results.push_back(forces(i, combinations, elements));
     require(wall.collectStress(
         7, std::vector<xLoadComb>(static_cast<std::size_t>(combinations), comb), results));
   }

@@ -81,7 +81,8 @@ public:
   /// A secant iteration: each pass takes every soil spring with its stiffness at the displacement
   /// of the pass before and solves anew. It ends when the sum of the absolute changes of dof 1 over
   /// the spring nodes is at most the tolerance, or after `maxIterations` passes (100 000 at most),
-  /// of which there is always one; its solution then stands without an error. `K` is there unchanged in the end.
+  /// of which there is always one; its solution then stands without an error. `K` is there
+  /// unchanged in the end.
   ///
   /// @oddity The sum is absolute, in mm, and grows with the number of nodes. Stored results depend
   /// on it.

@@ -29,8 +29,9 @@ struct CircleMoments {
 /// It gives what `intersectStripes` and the sums over its stripes give, within rounding errors, but
 /// factors every soil once, not for every slice, and makes no pieces: after the first circles a
 /// trial allocates nothing. In a stripe whose pieces lie one above the other the pieces below the
-/// circle are passed over together, and those that it holds whole are added as one sum. Working fields of shared pieces that the next circle would find are
-/// left as those would leave them, but for those that every circle fills anew.
+/// circle are passed over together, and those that it holds whole are added as one sum. Working
+/// fields of shared pieces that the next circle would find are left as those would leave them, but
+/// for those that every circle fills anew.
 class CircleTrial {
 public:
   /// @param stripes  the cut ground; must outlive the trial unchanged

@@ -9,8 +9,9 @@
 
 namespace ostrel::testing {
 
-/// A wall that stands: 10 to 18 m long, dug for three sixteenths to a quarter of its length, in sand over
-/// clay over sand, with two combinations. About half of them have water and about half an anchor.
+/// A wall that stands: 10 to 18 m long, dug for three sixteenths to a quarter of its length, in sand
+/// over clay over sand, with two combinations. About half of them have water and about half an
+/// anchor.
 /// All sizes lie on a grid of 2^-10 mm.
 inline xSheetpilingData random_wall(std::uint64_t seed) {
   RandomContents random(seed);
