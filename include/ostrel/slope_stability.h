@@ -99,8 +99,9 @@ public:
   /// Tries every circle of the settings and keeps the one with the smallest factor.
   ///
   /// Of equal factors the earliest circle wins. Results of centres are appended to those that are
-  /// there. A step that would make more than a million radii at a centre is refused like a wrong
-  /// range.
+  /// there. A centre of one radius needs no step. A step of 0, or one that would make more than a
+  /// million radii at a centre, is refused like a wrong range; one against the range may leave a
+  /// centre no radius, and it is passed over.
   ///
   /// @param spacing   extent of the slices along the wall [mm]
   /// @param gammaW    unit weight of water [N/mm³]
@@ -112,7 +113,7 @@ public:
   /// @param water     the water on the two sides
   /// @param stripes   the cut ground; cut here if empty, taken as it stands if not
   /// @param ignored   circles that meet the ground above their centre are added here
-  /// @retval errCircleBounds      the radii of a centre are reversed, or the step is not positive
+  /// @retval errCircleBounds      the radii of a centre are reversed, or too many by the step
   /// @retval errStabilityFactors  the factor of resistance is missing, zero or no number
   /// @retval errEmptyCentersGrid  no centre has a circle that could be reckoned
   /// @retval errEmptyPolygons     a layer holds an empty polygon, or the width of the stripes is

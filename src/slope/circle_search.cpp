@@ -8,6 +8,7 @@
 #include "slope/ignored_circles.h"
 #include "slope/stripes.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <utility>
@@ -22,13 +23,16 @@ struct Radii {
   double step = 0.0;  ///< [mm]
 };
 
+/// The radii of a centre; one radius needs no step, and against the range there may be none.
+///
 /// @oddity The largest radius is not tried unless it is also the smallest: the range is divided
 /// into as many steps as there are radii. Stored results depend on it.
 OstrelErrorType radii_of(const xGridPoint& point, double wanted_step, Radii& radii) {
   const double range = point.getMaxRadius() - point.getMinRadius();
-  if (!(range >= 0.0) || !(wanted_step > 0.0)) return errCircleBounds;
-  const double count = std::trunc(range / wanted_step) + 1.0;
-  if (!(count <= slope::most_steps)) return errCircleBounds;
+  if (!(range >= 0.0)) return errCircleBounds;
+  const double steps = range > 0.0 ? range / wanted_step : 0.0;
+  if (!(std::isfinite(steps) && steps < slope::most_steps)) return errCircleBounds;
+  const double count = std::max(std::trunc(steps) + 1.0, 0.0);
   radii.count = static_cast<std::int32_t>(count);
   radii.step = range / count;
   return ostrel::ok;

@@ -133,6 +133,7 @@ TEST_F(Run, ReportsAFailedCombinationByNameAndGoesOn) {
     xLoadComb comb = unfactored(name);
     comb.setcombIndex(static_cast<int>(data.loadCombs.size()) + 10);
     comb.actions.emplace_back().set("Q", data.loadCombs.empty(), 1.0, 1.0);
+    comb.checks[checkWallStructure] = true;
     data.loadCombs.push_back(comb);
   }
   EXPECT_EQ(run(data), veldError);
@@ -143,6 +144,7 @@ TEST_F(Run, ReportsAFailedCombinationByNameAndGoesOn) {
   ASSERT_EQ(results.combResults.size(), 1U);
   EXPECT_EQ(results.combResults[0].getCombName(), "second");
   EXPECT_EQ(results.combResults[0].getcombIndex(), 11);
+  EXPECT_TRUE(uls.structuralDesign.combResults.empty());  // the verifications have not run
 }
 
 // To the last bit, although the matrices of the beam pass from one combination to the next; the

@@ -204,12 +204,22 @@ TEST(CircleCut, WithoutCrossingsGoesByTheCentroid) {
   EXPECT_EQ(all.out.get(), all.piece.get());
 }
 
-// The circle passes the highest corner only: one crossing, and the centroid lies outside.
-TEST(CircleCut, AtOnePointGoesByTheCentroid) {
+// The circle passes one corner and meets nothing else. The apex (5, 10) is 3 and 4 from the centre,
+// the corner (0, 10) of the box lies within, the centroid (5, 3.33) is sqrt(9 + 113.8) = 11.1 off.
+TEST(CircleCut, AtOnePointLeavesOutAPieceWhoseCentroidIsOutside) {
   const ostrel::testing::Outline triangle{{5, 10}, {0, 0}, {10, 0}, {5, 10}};
-  const Cut touched = cut(triangle, {0, 10}, 5);
+  const Cut touched = cut(triangle, {2, 14}, 5);
   EXPECT_TRUE(touched.accepted);
   EXPECT_FALSE(touched.out.valid());
+}
+
+// The corner (0, 0) is 5 and 12 from the centre, both others lie within, the corner (6, 0) of the box
+// does not (16.3 off), and the centroid (2, 6.67) is sqrt(49 + 28.4) = 8.8 off.
+TEST(CircleCut, AtOnePointKeepsAPieceWhoseCentroidIsInside) {
+  const ostrel::testing::Outline triangle{{0, 10}, {0, 0}, {6, 10}, {0, 10}};
+  const Cut touched = cut(triangle, {-5, 12}, 13);
+  EXPECT_TRUE(touched.accepted);
+  EXPECT_EQ(touched.out, touched.piece);
 }
 
 // 0.5e-3 deep and sqrt(10.0005² - 100) = 0.1 wide: 2.5e-5.

@@ -64,6 +64,32 @@ TEST(CircleSearch, TriesOneCircleForOneRadius) {
   EXPECT_DOUBLE_EQ(search.ignored[0].Rmax, 8'000.0);
 }
 
+TEST(CircleSearch, NeedsNoStepForOneRadius) {
+  for (const double step : {0.0, -1'000.0, nan}) {
+    Search search;
+    search.add(5'000, -3'000, 8'000, 8'000);
+    search.settings.setStepradius(step);
+    EXPECT_EQ(search.run(), errEmptyCentersGrid) << step;
+    ASSERT_EQ(search.ignored.size(), 1U) << step;
+    EXPECT_DOUBLE_EQ(search.ignored[0].Rmax, 8'000.0) << step;
+  }
+}
+
+// -1500 / 2000 without its decimals is 0, so 1 radius; -1500 / 1000 is -1, so none, and -1500 / 400
+// is -3, so none either.
+TEST(CircleSearch, PassesOverACentreThatAStepAgainstTheRangeLeavesNoRadius) {
+  for (const auto& [step, circles] : {std::pair{-2'000.0, 1U}, {-1'000.0, 0U}, {-400.0, 0U}}) {
+    Search search;
+    search.add(5'000, -3'000, 8'000, 9'500);
+    search.settings.setStepradius(step);
+    EXPECT_EQ(search.run(), errEmptyCentersGrid) << step;
+    ASSERT_EQ(search.ignored.size(), circles) << step;
+    for (const err_circle& only : search.ignored) {
+      EXPECT_DOUBLE_EQ(only.Rmax, 8'000.0);
+    }
+  }
+}
+
 // 3000 / 1000 + 1 = 4 radii by a step of 3000 / 4: 8000, 8750, 9500, 10 250.
 TEST(CircleSearch, DoesNotTryTheLargestRadius) {
   Search search;
@@ -74,6 +100,16 @@ TEST(CircleSearch, DoesNotTryTheLargestRadius) {
   EXPECT_DOUBLE_EQ(search.ignored[0].Rmax, 10'250.0);
 }
 
+// 2600 / 1000 without its decimals is 2, so 3 radii by a step of 2600 / 3: 8000, 8866.7, 9733.3.
+TEST(CircleSearch, DividesARangeThatIsNoMultipleOfTheStep) {
+  Search search;
+  search.add(5'000, -3'000, 8'000, 10'600);
+  EXPECT_EQ(search.run(), errEmptyCentersGrid);
+  ASSERT_EQ(search.ignored.size(), 1U);
+  EXPECT_DOUBLE_EQ(search.ignored[0].Rmin, 8'000.0);
+  EXPECT_DOUBLE_EQ(search.ignored[0].Rmax, 8'000.0 + 2.0 * 2'600.0 / 3.0);
+}
+
 TEST(CircleSearch, RefusesWrongRadii) {
   for (const auto& [low, high] : {std::pair{2.0, 1.0}, {nan, 1.0}, {1.0, nan}}) {
     Search search;
@@ -82,8 +118,8 @@ TEST(CircleSearch, RefusesWrongRadii) {
   }
 }
 
-TEST(CircleSearch, RefusesAStepThatIsNotPositiveOrMakesMoreThanAMillionRadii) {
-  for (const double step : {0.0, -1.0, -2'000.0, nan, 1e-4}) {
+TEST(CircleSearch, RefusesAStepThatIsNoneOrMakesMoreThanAMillionRadii) {
+  for (const double step : {0.0, -0.0, nan, 1e-4}) {
     Search search;
     search.add(0, 5'000, 1'000, 2'000);
     search.settings.setStepradius(step);
@@ -151,16 +187,24 @@ TEST(CircleSearch, DividesFactorAndStabilisingMomentByTheFactorOfResistance) {
   EXPECT_DOUBLE_EQ(factored.result.getMdestab(), plain.result.getMdestab());
 }
 
+// Circles far above the ground have no slices: each has a factor of 1e10 / 1.25, which is below the
+// 1e10 of no circle at all. The radii are 100, 133.3 and 166.7 at either centre.
 TEST(CircleSearch, KeepsTheEarliestOfEqualCircles) {
   Search search;
-  search.add(-2'000, 3'000, 12'000, 12'000);
-  search.add(-2'000, 3'000, 12'000, 12'000);
-  search.settings.grid.points[1].center[0] += 0.0;
+  search.comb.ulsFactors[factorGlobalStability] = 1.25;
+  search.settings.setStepradius(50);
+  search.add(0, 50'000, 100, 200);
+  search.add(1'000, 50'000, 100, 200);
   ASSERT_EQ(search.run(), ostrel::ok);
   ASSERT_EQ(search.result.get_gridPointRes().size(), 2U);
-  EXPECT_DOUBLE_EQ(search.result.get_gridPointRes()[0].sf, search.result.get_gridPointRes()[1].sf);
-  EXPECT_DOUBLE_EQ(search.result.getXC(), -2'000.0);
-  EXPECT_DOUBLE_EQ(search.result.getRadius(), 12'000.0);
+  for (const xGridPointResults& at_centre : search.result.get_gridPointRes()) {
+    EXPECT_DOUBLE_EQ(at_centre.sf, 8e9);
+    EXPECT_DOUBLE_EQ(at_centre.radius, 100.0);
+  }
+  EXPECT_DOUBLE_EQ(search.result.getSf(), 8e9);
+  EXPECT_DOUBLE_EQ(search.result.getXC(), 0.0);
+  EXPECT_DOUBLE_EQ(search.result.getRadius(), 100.0);
+  EXPECT_TRUE(search.result.getStripesMin().empty());
 }
 
 // The centre is far above the ground: no slices, a factor of 1e10, which replaces nothing.
@@ -174,6 +218,23 @@ TEST(CircleSearch, CountsACircleThatMeetsNoGround) {
   EXPECT_DOUBLE_EQ(search.result.get_gridPointRes()[0].center.y, 50'000.0);
   EXPECT_DOUBLE_EQ(search.result.getSf(), 1e10);
   EXPECT_TRUE(search.result.getStripesMin().empty());
+}
+
+// A second search forgets the factor and the radius of the first, but not its centre and moments.
+TEST(CircleSearch, LeavesCentreAndMomentsOfAnEarlierSearch) {
+  Search search;
+  search.add(-2'000, 3'000, 12'000, 12'000);
+  ASSERT_EQ(search.run(), ostrel::ok);
+  const double moment = search.result.getMstab();
+  ASSERT_GT(moment, 0.0);
+  search.settings.grid.points[0].center = {5'000, -3'000};  // meets the ground above its centre
+  ASSERT_EQ(search.run(), ostrel::ok);
+  EXPECT_DOUBLE_EQ(search.result.getSf(), 1e10);
+  EXPECT_DOUBLE_EQ(search.result.getRadius(), 0.0);
+  EXPECT_TRUE(search.result.getStripesMin().empty());
+  EXPECT_DOUBLE_EQ(search.result.getXC(), -2'000.0);
+  EXPECT_DOUBLE_EQ(search.result.getMstab(), moment);
+  EXPECT_EQ(search.result.get_gridPointRes().size(), 1U);
 }
 
 TEST(CircleSearch, AppendsToTheResultsOfCentres) {

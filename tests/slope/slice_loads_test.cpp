@@ -68,6 +68,17 @@ TEST(SliceLoads, TakeTheUniformLoadOverTheWidth) {
   EXPECT_FALSE(piece->clip.hasLoad[1]);
 }
 
+// The second action after the three of weight, soil and water goes with the second condition: 24 of the
+// first by 2, 5 * 4 * 2 = 40 of the second by 3.
+TEST(SliceLoads, TakeEachConditionByItsOwnAction) {
+  std::vector<xLoadCond> conds = condition({uniform(3)});
+  conds.push_back(condition({uniform(5)})[0]);
+  xLoadComb comb = plain_combination(2);
+  comb.actions[3].set("", true, 2.0, 2.0);
+  comb.actions[4].set("", true, 3.0, 3.0);
+  EXPECT_DOUBLE_EQ(effect(slice(10, 14), conds, actFirst, comb), 2.0 * 24.0 + 3.0 * 40.0);
+}
+
 // From -1 to 3 only 0 to 3 counts: 3 * 3 * 2 = 18.
 TEST(SliceLoads, TakeTheUniformLoadOnlyUphillOfTheWall) {
   EXPECT_DOUBLE_EQ(effect(slice(-1, 3), condition({uniform(3)})), 18.0);

@@ -139,6 +139,14 @@ TEST(SlopeMinimum, ListsOnlyFailuresThatLowerIt) {
   EXPECT_DOUBLE_EQ(design.getIndex(), 3.0);
 }
 
+TEST(SlopeMinimum, OfExactlyOneIsNoFailure) {
+  xSlopeStabilityDesign design;
+  design.getResults() = {stability(1.0)};
+  std::vector<osg::ref_ptr<xCheckInfo>> failed;
+  EXPECT_DOUBLE_EQ(design.getSfMin(&failed), 1.0);
+  EXPECT_TRUE(failed.empty());
+}
+
 TEST(SlopeMinimum, WithoutResultsIsUnlimited) {
   xSlopeStabilityDesign design;
   design.setSf(3.0);
