@@ -119,7 +119,7 @@ private:
     }
     const Job job = to_job(*project);
     const Outcome outcome = analyse(job);
-    const RunData data = run_data_of(*project, job, outcome);
+    const RunData data = run_data_of(*project, job, outcome, options_.texts);
     judge(data, options_.texts, result_);
     for (const std::string& message : data.messages)
       result_.messages += with_name(file, message);

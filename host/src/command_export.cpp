@@ -10,6 +10,7 @@
 #include "project_loading.h"
 #include "report_page.h"
 #include "result_tables.h"
+#include "run_data.h"
 #include "system_reason.h"
 #include "tables_json.h"
 #include "text_table.h"
@@ -50,7 +51,7 @@ public:
   bool write(const Project& project, const Job& job, const Outcome& outcome) {
     const auto tables = result_tables(project, job, outcome, options_.texts);
     if (!options_.tables_file.empty()) {
-      const std::string json = tables_json(head_of(project, outcome), tables);
+      const std::string json = tables_json(head_of(project, outcome, options_.texts), tables);
       if (!written(options_.tables_file, json)) return false;
     }
     return write_workbook(project, tables) && print(project, job, outcome);
@@ -117,10 +118,8 @@ int export_project(const ExportOptions& options, std::ostream& out, std::ostream
   if (!project || !files.ready()) return exit_bad_input;
   const Job job = to_job(*project);
   const Outcome outcome = analyse(job);
-  for (const xVeldError& message : outcome.messages) {
-    const std::string line = message.MakeErrStr();
-    err << fitted(line, columns_of(line)) << "\n";
-  }
+  for (const std::string& message : messages_of(*project, outcome, options.texts))
+    err << fitted(message, columns_of(message)) << "\n";
   if (!files.write(*project, job, outcome)) return exit_bad_input;
   return outcome.verdict == veldError ? exit_analysis_failed : exit_fine;
 }

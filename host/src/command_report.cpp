@@ -6,7 +6,9 @@
 #include "project_conversion.h"
 #include "project_loading.h"
 #include "report_page.h"
+#include "run_data.h"
 #include "system_reason.h"
+#include "text_table.h"
 
 #include <optional>
 #include <ostream>
@@ -45,8 +47,8 @@ int report_project(const ReportOptions& options, std::ostream& out, std::ostream
   if (!may_write_report(options.report_file, options.texts, err)) return exit_bad_input;
   const Job job = to_job(*project);
   const Outcome outcome = analyse(job);
-  for (const xVeldError& message : outcome.messages)
-    err << message.MakeErrStr() << "\n";
+  for (const std::string& message : messages_of(*project, outcome, options.texts))
+    err << fitted(message, columns_of(message)) << "\n";
   if (!write_report(options.report_file, *project, job, outcome, options.texts, out, err)) {
     return exit_bad_input;
   }

@@ -75,7 +75,7 @@ int run_project(const RunOptions& options, std::ostream& out, std::ostream& err)
   const auto start = std::chrono::steady_clock::now();
   const Outcome outcome = watched_analysis(job, options, err);
   const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
-  const RunData data = run_data_of(*project, job, outcome);
+  const RunData data = run_data_of(*project, job, outcome, options.texts);
   const int status = print_run(data, options.fail_below, options.texts, out, err);
   if (options.verbose) tell_more(job, outcome, time.count(), options.texts, err);
   if (to_files) {

@@ -135,6 +135,22 @@ inline constexpr Phrase analysed_in{"Calcolo: {0} s", "Analysis: {0} s"};  // se
 inline constexpr Phrase out_of_balance{
     "{0}: fuori equilibrio per {1} kN in orizzontale, {2} kN in verticale, {3} kNm",
     "{0}: out of balance by {1} kN across, {2} kN along the wall, {3} kNm"};  // combination, kN, kN, kNm
+inline constexpr Phrase warning{"Attenzione: {0}", "Warning: {0}"};
+inline constexpr Phrase circle_on_border{
+    "{0}: il cerchio critico sta sul bordo della ricerca, uno peggiore può starne fuori; estendere "
+    "{1}",
+    "{0}: the governing slip circle lies on the border of its search, a worse one may lie outside; "
+    "extend {1}"};  // combinations, advice
+inline constexpr Phrase extend_field{"{0} oltre {1} ({2})",
+                                     "{0} beyond {1} ({2})"};  // field, number, border
+inline constexpr Phrase first_column{"prima colonna di centri", "first column of centres"};
+inline constexpr Phrase last_column{"ultima colonna di centri", "last column of centres"};
+inline constexpr Phrase lowest_row{"riga di centri più bassa", "lowest row of centres"};
+inline constexpr Phrase highest_row{"riga di centri più alta", "highest row of centres"};
+inline constexpr Phrase smallest_circle{"cerchio più piccolo del suo centro",
+                                        "smallest circle of its centre"};
+inline constexpr Phrase largest_circle{"cerchio più grande del suo centro",
+                                       "largest circle of its centre"};
 
 }  // namespace phrase
 

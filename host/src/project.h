@@ -243,7 +243,10 @@ struct SlopeCentreInput {
 };
 
 struct SlopeInput {
+  /// Which field of the project names the circles.
+  enum class Source : std::int32_t { chosen, tangent_levels, radii, below_foot, centre_list };
   int formulation = 0;
+  Source source = Source::chosen;  ///< chosen from the geometry where no field names them
   double stripe_width_m = 0.0;
   double radius_step_m = 0.0;
   std::vector<SlopeCentreInput> centres;

@@ -60,13 +60,22 @@ CircleRange read_range(ObjectReader& fields) {
   return {.kind = Kind::tangent_levels, .span_m = read_span(fields, "tangent_levels_m")};
 }
 
-std::vector<SlopeCentreInput> read_centre_box(const ValueReader& value, double wall_length) {
+SlopeInput::Source source_of(CircleRange::Kind kind) {
+  using Kind = CircleRange::Kind;
+  if (kind == Kind::radii) return SlopeInput::Source::radii;
+  return kind == Kind::below_foot ? SlopeInput::Source::below_foot
+                                  : SlopeInput::Source::tangent_levels;
+}
+
+std::vector<SlopeCentreInput> read_centre_box(const ValueReader& value, double wall_length,
+                                              SlopeInput::Source& source) {
   ObjectReader fields = value.object();
   CentreBox box;
   box.x_m = read_span(fields, "x_m");
   box.y_m = read_span(fields, "y_m");
   box.spacing_m = fields.number("spacing_m", length);
   const CircleRange range = read_range(fields);
+  source = source_of(range.kind);
   if (!(box.spacing_m > 0.0)) return {};
   if (number_of_centres(box) > most_centres) {
     value.refuse(value.problems().texts()(Text::fewer_centres, most_centres));
@@ -108,8 +117,9 @@ std::optional<SlopeInput> read_slope(const ValueReader& value, const Project& pr
   const auto box = fields.optional("centre_box");
   const auto centres = fields.optional("centres");
   if (box) {
-    slope.centres = read_centre_box(*box, project.wall.length_m);
+    slope.centres = read_centre_box(*box, project.wall.length_m, slope.source);
   } else if (centres) {
+    slope.source = SlopeInput::Source::centre_list;
     slope.centres = read_centres(*centres);
   } else {
     slope.centres = default_centres(project);

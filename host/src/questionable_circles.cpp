@@ -22,13 +22,6 @@ bool searches_circles(const Project& project) {
                      });
 }
 
-// The largest radius that is tried: the range is cut into whole steps, and its end is left out.
-double last_radius(const SlopeCentreInput& centre, double step) {
-  const double range = centre.largest_radius_m - centre.least_radius_m;
-  const double steps = std::trunc(range / step) + 1.0;
-  return centre.largest_radius_m - range / steps;
-}
-
 }  // namespace
 
 void remark_upon_circles(const Project& project, Problems& problems) {
@@ -49,8 +42,8 @@ void remark_upon_circles(const Project& project, Problems& problems) {
   }
   const std::optional<GroundBox> ground = ground_box(project.ground);
   const auto leaves = [&](const SlopeCentreInput& centre) {
-    return !stays_within(centre, last_radius(centre, slope.radius_step_m), *ground,
-                         project.excavation_depth_m);
+    return last_radius(centre, slope.radius_step_m)
+         > reach_within(centre, *ground, project.excavation_depth_m).radius_m;
   };
   if (ground && std::any_of(slope.centres.begin(), slope.centres.end(), leaves)) {
     problems.remark("slope", std::string(texts(Text::circles_leave_ground)));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "report_page.h"
 
+#include "circle_border.h"
 #include "figures.h"
 #include "report_block.h"
 #include "report_files.h"
@@ -11,6 +12,7 @@
 
 #include <ostrel/version.h>
 
+#include <cstddef>
 #include <map>
 #include <string_view>
 #include <utility>
@@ -53,7 +55,7 @@ std::string filled(std::string_view page, const std::map<std::string_view, std::
   return result += page;
 }
 
-OrderedJson message_block(const Outcome& outcome) {
+OrderedJson message_block(const Project& project, const Outcome& outcome) {
   static const Both error{"Errore:", "Error:"};
   static const Both warning{"Attenzione:", "Warning:"};
   static const Both remark{"Informazione:", "Information:"};
@@ -69,6 +71,14 @@ OrderedJson message_block(const Outcome& outcome) {
                                             : remark},
                      {"text", message.GetErrorStr()}});
   }
+  const xSlopeStabilityDesign& circles = outcome.ultimate.slopeStabilityDesign;
+  const auto italian = border_warnings(project, circles, Texts(Language::italian));
+  const auto english = border_warnings(project, circles, Texts(Language::english));
+  for (std::size_t i = 0; i < english.size(); ++i) {
+    items.push_back(
+        {{"severity", "warning"}, {"label", warning}, {"text", Both{italian[i], english[i]}}});
+  }
+  if (items.empty()) return {};
   return {{"kind", "messages"}, {"items", std::move(items)}};
 }
 
@@ -81,7 +91,8 @@ OrderedJson result_blocks(const Project& project, const Job& job, const Outcome&
   }
   for (OrderedJson& block : overview_blocks(project, job, outcome, figures))
     blocks.push_back(std::move(block));
-  if (!outcome.messages.empty()) blocks.push_back(message_block(outcome));
+  OrderedJson messages = message_block(project, outcome);
+  if (!messages.is_null()) blocks.push_back(std::move(messages));
   return blocks;
 }
 

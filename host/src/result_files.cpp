@@ -68,10 +68,11 @@ ResultFile figure_file(const Figure& figure, Language language) {
 std::vector<ResultFile> result_files(const Project& project, const Job& job, const Outcome& outcome,
                                      Language language) {
   std::vector<ResultFile> files{{"result.json", result_json(project, outcome)}};
-  const std::vector<ResultTable> tables = result_tables(project, job, outcome, Texts(language));
+  const Texts texts(language);
+  const std::vector<ResultTable> tables = result_tables(project, job, outcome, texts);
   for (const ResultTable& table : tables)
     files.push_back({file_name(table), csv_of(table)});
-  files.push_back({"tables.json", tables_json(head_of(project, outcome), tables)});
+  files.push_back({"tables.json", tables_json(head_of(project, outcome, texts), tables)});
   for (const Figure& figure : figures(project, job, outcome))
     files.push_back(figure_file(figure, language));
   return files;

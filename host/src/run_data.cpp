@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "run_data.h"
 
+#include "circle_border.h"
+#include "phrases.h"
+
 #include <cstddef>
 #include <utility>
 
@@ -18,7 +21,8 @@ const xCombResults* result_of(const Outcome& outcome, std::size_t place) {
 
 }  // namespace
 
-RunData run_data_of(const Project& project, const Job& job, const Outcome& outcome) {
+RunData run_data_of(const Project& project, const Job& job, const Outcome& outcome,
+                    const Texts& texts) {
   const WallInput& wall = project.wall;
   RunData data;
   data.name = project.name;
@@ -41,11 +45,21 @@ RunData run_data_of(const Project& project, const Job& job, const Outcome& outco
   }
   data.notes = project.notes;
   data.through = outcome.verdict != veldError;
-  for (const xVeldError& message : outcome.messages)
-    data.messages.push_back(message.MakeErrStr());
+  data.messages = messages_of(project, outcome, texts);
   data.ultimate = outcome.ultimate;
   data.serviceability = outcome.serviceability;
   return data;
+}
+
+std::vector<std::string> messages_of(const Project& project, const Outcome& outcome,
+                                     const Texts& texts) {
+  std::vector<std::string> messages;
+  for (const xVeldError& message : outcome.messages)
+    messages.push_back(message.MakeErrStr());
+  for (const std::string& warning :
+       border_warnings(project, outcome.ultimate.slopeStabilityDesign, texts))
+    messages.push_back(phrase::warning.in(texts, warning));
+  return messages;
 }
 
 }  // namespace ostrel::host

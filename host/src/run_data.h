@@ -5,6 +5,7 @@
 #include "analysis.h"
 #include "project.h"
 #include "summary.h"
+#include "texts.h"
 
 #include <optional>
 #include <string>
@@ -31,11 +32,16 @@ struct RunData {
   std::vector<CombinationData> combinations;
   bool through = true;             ///< all combinations solved and all verifications made
   std::vector<std::string> notes;  ///< on the standard of the project, in the language of the run
-  std::vector<std::string> messages;  ///< of the analysis, in the language of the run
+  std::vector<std::string> messages;  ///< of and on the analysis, in the language of the run
   xUltimateLimitStates ultimate;
   xServiceabilityLimitStates serviceability;
 };
 
-RunData run_data_of(const Project& project, const Job& job, const Outcome& outcome);
+RunData run_data_of(const Project& project, const Job& job, const Outcome& outcome,
+                    const Texts& texts);
+
+/// What the analysis says, in its language, then warnings about its results.
+std::vector<std::string> messages_of(const Project& project, const Outcome& outcome,
+                                     const Texts& texts);
 
 }  // namespace ostrel::host

@@ -48,20 +48,38 @@ double number_of_centres(const CentreBox& box);
 std::vector<SlopeCentreInput> centres_of(const CentreBox& box, const CircleRange& range,
                                          double length_m);
 
+/// The largest radius that is tried: the range is cut into whole steps, and its end is left out.
+double last_radius(const SlopeCentreInput& centre, double step_m);
+
 /// @name What is tried where the file says nothing
 ///
 /// Circles through the foot of the wall and below it, to half the wall's length, around centres from
-/// 0.8 of the length in front of the wall to 0.4 behind it and from 0.02 to 1.22 above the highest
-/// ground: the worst circles beside a vertical wall come up steeply, with a low centre. Circles that leave the ground sideways or below are left out:
-/// what lies outside of it has no weight and no strength.
+/// 0.8 of the length in front of the wall to 0.4 behind it and from 0.02 above the ground at the wall
+/// to 1.22 above the highest ground: the worst circles beside a vertical wall come up steeply, with a
+/// low centre. Circles that leave the ground sideways or below are left out, since what lies outside
+/// of it has no weight and no strength, and so are those that ground behind meets above their
+/// centre, which the search passes over.
 ///@{
 double default_stripe_width_m(const Project& project);
 double default_radius_step_m(const Project& project);
+CentreBox default_box(const Project& project);
 std::vector<SlopeCentreInput> default_centres(const Project& project);
 ///@}
 
-/// Whether the circles of a centre stay within the ground up to a radius.
-bool stays_within(const SlopeCentreInput& centre, double radius_m, const GroundBox& ground,
-                  double excavation_depth_m);
+/// Where the ground behind the wall first is above a level: x [m], infinite for nowhere.
+double rise_behind(const GroundInput& ground, double level_m);
+
+enum class GroundEdge : std::int32_t { front, back, bottom };
+
+/// How large a circle may be, and which edge of the ground bounds it.
+struct GroundReach {
+  double radius_m = 0.0;
+  GroundEdge edge = GroundEdge::bottom;
+};
+
+/// The largest circle around a centre that stays within the ground: it comes up on the excavation
+/// in front or at the highest ground behind, or it touches the bottom.
+GroundReach reach_within(const SlopeCentreInput& centre, const GroundBox& ground,
+                         double excavation_depth_m);
 
 }  // namespace ostrel::host

@@ -2,6 +2,7 @@
 #include "tables_json.h"
 
 #include "embedded_files.h"
+#include "run_data.h"
 
 #include <ostrel/version.h>
 
@@ -42,11 +43,10 @@ Json rows_of(const ResultTable& table) {
 
 }  // namespace
 
-TablesHead head_of(const Project& project, const Outcome& outcome) {
-  TablesHead head{.project = project.name, .through = outcome.verdict != veldError};
-  for (const xVeldError& message : outcome.messages)
-    head.messages.push_back(message.MakeErrStr());
-  return head;
+TablesHead head_of(const Project& project, const Outcome& outcome, const Texts& texts) {
+  return {.project = project.name,
+          .through = outcome.verdict != veldError,
+          .messages = messages_of(project, outcome, texts)};
 }
 
 std::string tables_json(const TablesHead& head, const std::vector<ResultTable>& tables) {

@@ -186,7 +186,7 @@ void run_project(const std::string& text) {
   if (is_large(job)) return;
   const host::Outcome outcome = host::analyse(job);
   tell_all(outcome);
-  const host::RunData data = host::run_data_of(*project, job, outcome);
+  const host::RunData data = host::run_data_of(*project, job, outcome, problems.texts());
   promise(!host::run_report(data, problems.texts()).empty(), "a report has a text");
   promise(host::read_saved(host::saved_bytes(data, outcome.results), problems).has_value(),
           "saved results are read");

@@ -59,7 +59,7 @@ void write_results(const fs::path& folder) {
       host::read_project(contents(fs::path(OSTREL_EXAMPLES) / "cantilever.json"), problems);
   const host::Job job = host::to_job(project.value());
   const host::Outcome outcome = host::analyse(job);
-  const host::RunData data = host::run_data_of(*project, job, outcome);
+  const host::RunData data = host::run_data_of(*project, job, outcome, problems.texts());
   const std::string file = host::saved_bytes(data, {});
   write(folder / "whole", '\1' + file);
   write(folder / "text", '\0' + file.substr(28, file.size() - 36));

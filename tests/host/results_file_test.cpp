@@ -119,7 +119,7 @@ TEST(ResultsFile, OfARunGivesTheSameTablesInEitherLanguage) {
   const Project project = project_of(sound_project());
   const Job job = to_job(project);
   const Outcome outcome = analyse(job);
-  const RunData data = run_data_of(project, job, outcome);
+  const RunData data = run_data_of(project, job, outcome, english);
   const Reading reading = reading_of(saved_bytes(data, outcome.results));
   ASSERT_TRUE(reading.run) << reading.told;
   for (const Language language : {Language::english, Language::italian}) {

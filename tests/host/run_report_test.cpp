@@ -19,7 +19,7 @@ using Json = nlohmann::json;
 std::string report_of(const Json& json, Language language = Language::english) {
   const Project project = project_of(json);
   const Job job = to_job(project);
-  return run_report(run_data_of(project, job, analyse(job)), Texts(language));
+  return run_report(run_data_of(project, job, analyse(job), Texts(language)), Texts(language));
 }
 
 TEST(RunReport, TellsTheWallAndItsSigns) {

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <limits>
 
 namespace ostrel::host {
 namespace {
@@ -110,7 +111,7 @@ TEST(DefaultSlopeGrid, StaysWithinTheGround) {
   ASSERT_FALSE(centres.empty());
   EXPECT_LT(centres.size(), 81u);
   for (const SlopeCentreInput& centre : centres) {
-    EXPECT_TRUE(stays_within(centre, centre.largest_radius_m, ground, 4.0));
+    EXPECT_LE(centre.largest_radius_m, reach_within(centre, ground, 4.0).radius_m);
     EXPECT_NE(std::abs(centre.x_m + 8.0) + std::abs(centre.y_m - 0.2), 0.0);
     const bool lower_right = std::abs(centre.x_m - 4.0) + std::abs(centre.y_m - 0.2) < 1e-9;
     if (lower_right) {
@@ -119,15 +120,64 @@ TEST(DefaultSlopeGrid, StaysWithinTheGround) {
   }
 }
 
-TEST(DefaultSlopeGrid, StandsAboveTheHighestGround) {
+// The ground behind rises from the head by 0.3, to `top`.
+Json rising_ground(double top) {
   Json project = sound_project();
+  const double far = top / 0.3;
   project["ground"] = {
       {"layers",
        {{{"soil", "sand"},
          {"polygons_m",
-          {{{-30, -30}, {60, -30}, {60, 3}, {10, 3}, {0, 0}, {0, -4}, {-30, -4}}}}}}}};
-  // 0.02 of 10 m above +3 m.
-  EXPECT_DOUBLE_EQ(project_of(project).slope->centres.front().y_m, 3.2);
+          {{{-30, -30}, {100, -30}, {100, top}, {far, top}, {0, 0}, {0, -4}, {-30, -4}}}}}}}};
+  return project;
+}
+
+// From 0.02 of 10 m above the ground at the wall, 0 m, to 1.22 above the highest, +3 m, every 1.5 m:
+// up to 15.2 m. Ground higher than 1.22 of the length counts as high as that: up to 24.4 m.
+TEST(DefaultSlopeGrid, StandsBetweenTheGroundAtTheWallAndTheHighest) {
+  const CentreBox low = default_box(project_of(rising_ground(3)));
+  EXPECT_DOUBLE_EQ(low.y_m[0], 0.2);
+  EXPECT_DOUBLE_EQ(low.y_m[1], 15.2);
+  EXPECT_DOUBLE_EQ(default_box(project_of(rising_ground(20))).y_m[1], 24.4);
+}
+
+// Around (-5, 1.7) the ground is above the centre from 1.7 / 0.3 = 5.67 m on, 10.67 m from the centre:
+// less than the hypot(5, 11.7) = 12.72 m to the foot. Above (x, 3.2) there is no ground, the centre
+// keeps all its circles.
+TEST(DefaultSlopeGrid, LeavesOutCirclesThatMeetTheGroundAboveTheirCentre) {
+  const std::vector<SlopeCentreInput> centres = project_of(rising_ground(3)).slope->centres;
+  std::size_t above = 0;
+  for (const SlopeCentreInput& centre : centres) {
+    EXPECT_FALSE(std::abs(centre.x_m + 5.0) + std::abs(centre.y_m - 1.7) < 1e-9);
+    if (centre.y_m < 3.0) {
+      EXPECT_LE(centre.x_m + centre.largest_radius_m, centre.y_m / 0.3 + 1e-9);
+    }
+    if (std::abs(centre.y_m - 3.2) < 1e-9) ++above;
+  }
+  EXPECT_EQ(above, 9u);
+}
+
+TEST(GroundBehind, RisesAboveALevelAtItsSurface) {
+  const GroundInput rising = project_of(rising_ground(3)).ground;
+  EXPECT_EQ(rise_behind(rising, -1.0), 0.0);
+  EXPECT_DOUBLE_EQ(rise_behind(rising, 1.5), 5.0);
+  EXPECT_EQ(rise_behind(rising, 3.0), std::numeric_limits<double>::infinity());
+  const GroundInput level = project_of(sound_project()).ground;
+  EXPECT_EQ(rise_behind(level, -0.1), 0.0);
+  EXPECT_EQ(rise_behind(level, 0.0), std::numeric_limits<double>::infinity());
+}
+
+// From (1, 2) it is hypot(31, 6) = 31.58 m to the end of the excavation at -4 m, hypot(39, 2) = 39.05 m
+// to that of the ground behind and 32 m down; from (1, 12) hypot(31, 16) = 34.89 m to the first.
+TEST(GroundReach, EndsAtTheNearestEdge) {
+  const GroundBox ground{.left = -30, .right = 40, .bottom = -30, .top = 0};
+  const GroundReach front = reach_within({.x_m = 1, .y_m = 2}, ground, 4.0);
+  EXPECT_DOUBLE_EQ(front.radius_m, std::hypot(31.0, 6.0));
+  EXPECT_EQ(front.edge, GroundEdge::front);
+  const GroundReach bottom = reach_within({.x_m = 6, .y_m = 0}, ground, 4.0);
+  EXPECT_EQ(bottom.radius_m, 30.0);
+  EXPECT_EQ(bottom.edge, GroundEdge::bottom);
+  EXPECT_EQ(reach_within({.x_m = 35, .y_m = 2}, ground, 4.0).edge, GroundEdge::back);
 }
 
 }  // namespace
