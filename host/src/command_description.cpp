@@ -44,7 +44,9 @@ OptionDescription described(CLI::Option& option) {
     result.names.push_back("--" + name);
   if (result.names.empty()) result.names.push_back(option.get_name(true));
   if (option.get_items_expected_max() > 0) {
-    result.value = result.choices.empty() ? option.get_type_name() : joined(result.choices);
+    // A type is followed by what it is checked for, as "N:INT in [1 - 9]".
+    const std::string type = option.get_type_name();
+    result.value = result.choices.empty() ? type.substr(0, type.find(':')) : joined(result.choices);
     if (result.value.empty()) result.value = "VALUE";
   }
   return result;

@@ -138,12 +138,23 @@ std::string fish_option(const OptionDescription& option, const std::string& wher
   return text + " -d " + fish_quoted(option.description) + "\n";
 }
 
-std::string fish_places(const CommandDescription& command, const std::string& where) {
+// The names of all options that take a value.
+std::string value_names(const std::vector<OptionDescription>& options) {
+  std::string names;
+  for (const OptionDescription& option : options) {
+    if (option.takes_value()) names += " " + joined(option.names, " ");
+  }
+  return names;
+}
+
+// What stands in a place is no value of the option before it.
+std::string fish_places(const CommandDescription& program, const CommandDescription& command) {
   std::string text;
   for (const OptionDescription& place : command.places) {
-    text += "complete -c ostrel" + where
-          + (place.choices.empty() ? " -F" : " -a " + fish_quoted(joined(place.choices, " ")))
-          + "\n";
+    text += fmt::format(
+        "complete -c ostrel -n '__ostrel_place {}{}'{}\n", command.name,
+        value_names(options_in(program, command)),
+        place.choices.empty() ? " -F" : " -a " + fish_quoted(joined(place.choices, " ")));
   }
   return text;
 }
@@ -234,16 +245,40 @@ fi
 }
 
 std::string fish_completion(const CommandDescription& program) {
-  std::string text = "# Completion of ostrel for fish.\ncomplete -c ostrel -f\n";
+  // The command is the first word that is neither an option nor the value of one.
+  std::string text = fmt::format(R"(# Completion of ostrel for fish.
+function __ostrel_command
+    set -l value 0
+    for word in (commandline -opc)[2..-1]
+        if test $value = 1
+            set value 0
+        else if contains -- $word{0}
+            set value 1
+        else if not string match -q -- '-*' $word
+            echo $word
+            return
+        end
+    end
+end
+function __ostrel_in
+    set -l command (__ostrel_command)
+    test "$command" = "$argv[1]"
+end
+function __ostrel_place
+    __ostrel_in $argv[1]; and not contains -- (commandline -opc)[-1] $argv[2..-1]
+end
+complete -c ostrel -f
+)",
+                                 value_names(program.options));
   for (const OptionDescription& option : program.options)
     text += fish_option(option, "");
   for (const CommandDescription& command : program.commands) {
-    text += fmt::format("complete -c ostrel -n __fish_use_subcommand -a {} -d {}\n", command.name,
+    text += fmt::format("complete -c ostrel -n \"__ostrel_in ''\" -a {} -d {}\n", command.name,
                         fish_quoted(command.description));
-    const std::string where = fmt::format(" -n '__fish_seen_subcommand_from {}'", command.name);
+    const std::string where = fmt::format(" -n '__ostrel_in {}'", command.name);
     for (const OptionDescription& option : command.options)
       text += fish_option(option, where);
-    text += fish_places(command, where);
+    text += fish_places(program, command);
   }
   return text;
 }

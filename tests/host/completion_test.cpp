@@ -5,8 +5,10 @@
 #include "command_line.h"
 #include "host_testing.h"
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 
+#include <ostream>
 #include <set>
 #include <sstream>
 
@@ -78,48 +80,125 @@ TEST(CommandDescriptions, AreThoseOfTheHelpInEveryForm) {
   }
 }
 
-class BashCompletion : public ::testing::Test {
+// A shell and how to ask it what it offers for the last word of `$line`; the answers go to "reply". A
+// shell that is missing fails the test.
+struct Shell {
+  const char* name;
+  const char* ask;
+};
+
+constexpr Shell bash{"bash", R"sh(set -u
+source ./completion
+eval "COMP_WORDS=($line)"
+[[ $line != *' ' ]] || COMP_WORDS+=('')
+COMP_CWORD=$((${#COMP_WORDS[@]} - 1))
+_ostrel
+printf '%s\n' "${COMPREPLY[@]}" >reply
+)sh"};
+
+// Types the line and a tab into a shell on a terminal of its own. There the one function that
+// receives all matches notes those that fit what was typed.
+constexpr Shell zsh{"zsh", R"sh(zmodload zsh/zpty || exit 1
+zpty shell zsh -f -i
+zpty -w shell 'PS1=; stty -echo; unset zle_bracketed_paste
+autoload -Uz compinit && compinit -D -u && source ./completion
+compadd() {
+  local word found=()
+  for word; do
+    [[ $word == (-|--) ]] && break
+    [[ $word == -[OAD]* ]] && { builtin compadd "$@"; return }
+  done
+  builtin compadd -A found "$@"
+  print -rl -- "${(Q)found[@]}" >>reply
+  builtin compadd "$@"
+}
+ask() { zle complete-word; : >asked }
+zle -N ask; bindkey "^I" ask; : >ready'
+repeat 400 { [[ -e ready ]] && break; sleep 0.05 }
+zpty -w -n shell "$line"$'\t'
+repeat 400 { [[ -e asked ]] && break; sleep 0.05 }
+zpty -d shell
+[[ -e asked ]] && : >>reply
+)sh"};
+
+// Each answer is followed by its description; a folder ends with a slash.
+constexpr Shell fish{"fish", R"sh(source ./completion
+or exit 1
+complete -C "$line" >found
+string replace -r '/?(\t.*)?$' '' <found >reply
+exit 0
+)sh"};
+
+void PrintTo(const Shell& shell, std::ostream* out) {
+  *out << shell.name;
+}
+
+class Completion : public ::testing::TestWithParam<Shell> {
 protected:
-  // What bash would offer for the last of some words.
-  std::set<std::string> offered(const std::string& words) {
-    folder_.write("completion", printed({"completion", "bash", "--lang", "en"}));
-    folder_.write("ask", "set -u\nsource ./completion\nCOMP_WORDS=(" + words
-                             + ")\nCOMP_CWORD=$((${#COMP_WORDS[@]} - 1))\n_ostrel\n"
-                               "printf '%s\\n' \"${COMPREPLY[@]}\" >reply\n");
-    folder_.write("wall of piles.json", "");
-    std::filesystem::create_directory(folder_ / "results");
-    EXPECT_EQ(std::system(("cd '" + folder_.path().string() + "' && bash ask").c_str()), 0);
-    std::istringstream lines(contents_of(folder_ / "reply"));
+  // What the shell offers for the last word of a line.
+  std::set<std::string> offered(const std::string& line, const std::string& language = "en") {
+    const TemporaryFolder folder;
+    folder.write("completion", printed({"completion", GetParam().name, "--lang", language}));
+    folder.write("ask", GetParam().ask);
+    folder.write("wall of piles.json", "");
+    std::filesystem::create_directory(folder / "results");
+    const std::string command =
+        fmt::format("cd '{0}' && env HOME='{0}' line='{1}' {2} ask 2>complaints",
+                    folder.path().string(), line, GetParam().name);
+    EXPECT_EQ(std::system(command.c_str()), 0) << line;
+    EXPECT_EQ(contents_of(folder / "complaints"), "") << line;
+    EXPECT_TRUE(std::filesystem::exists(folder / "reply")) << line;
+    std::istringstream lines(contents_of(folder / "reply"));
     std::set<std::string> replies;
-    for (std::string line; std::getline(lines, line);) {
-      if (!line.empty()) replies.insert(line);
+    for (std::string reply; std::getline(lines, reply);) {
+      if (!reply.empty()) replies.insert(reply);
     }
     return replies;
   }
-
-  TemporaryFolder folder_;
 };
 
-TEST_F(BashCompletion, OffersCommands) {
+INSTANTIATE_TEST_SUITE_P(Shells, Completion, ::testing::Values(bash, zsh, fish),
+                         [](const ::testing::TestParamInfo<Shell>& test) {
+                           return std::string(test.param.name);
+                         });
+
+TEST_P(Completion, OffersCommands) {
   EXPECT_THAT(offered("ostrel ba"), ElementsAre("batch"));
   EXPECT_THAT(offered("ostrel --lang it comp"), ElementsAre("completion"));
+  const std::vector<std::string> commands = commands_of_help();
+  EXPECT_THAT(offered("ostrel "), ::testing::UnorderedElementsAreArray(commands));
 }
 
-TEST_F(BashCompletion, OffersTheOptionsOfACommandAndOfTheProgram) {
+TEST_P(Completion, OffersTheOptionsOfACommandAndOfTheProgram) {
   EXPECT_THAT(offered("ostrel batch --pr"), UnorderedElementsAre("--presets", "--progress"));
   EXPECT_THAT(offered("ostrel run --la"), ElementsAre("--lang"));
   EXPECT_THAT(offered("ostrel run --prog"), ElementsAre());
 }
 
-TEST_F(BashCompletion, OffersChoices) {
-  EXPECT_THAT(offered("ostrel run --lang ''"), UnorderedElementsAre("it", "en"));
+TEST_P(Completion, TakesTheFirstWordThatIsNoValueForTheCommand) {
+  EXPECT_THAT(offered("ostrel --lang it batch --prog"), ElementsAre("--progress"));
+  EXPECT_THAT(offered("ostrel run batch --prog"), ElementsAre());
+}
+
+TEST_P(Completion, OffersChoices) {
+  EXPECT_THAT(offered("ostrel run --lang "), UnorderedElementsAre("it", "en"));
   EXPECT_THAT(offered("ostrel batch --progress p"), ElementsAre("plain"));
   EXPECT_THAT(offered("ostrel completion z"), ElementsAre("zsh"));
 }
 
-TEST_F(BashCompletion, OffersFilesAndFolders) {
+TEST_P(Completion, OffersFilesAndFolders) {
   EXPECT_THAT(offered("ostrel run wall"), ElementsAre("wall of piles.json"));
-  EXPECT_THAT(offered("ostrel run -o ''"), ElementsAre("results"));
+  EXPECT_THAT(offered("ostrel run --report wall"), ElementsAre("wall of piles.json"));
+  EXPECT_THAT(offered("ostrel run -o "), ElementsAre("results"));
+}
+
+TEST_P(Completion, OffersNothingForANumber) {
+  EXPECT_THAT(offered("ostrel batch -j "), ElementsAre());
+  EXPECT_THAT(offered("ostrel run --fail-below "), ElementsAre());
+}
+
+TEST_P(Completion, SpeaksItalianWithoutAComplaint) {
+  EXPECT_THAT(offered("ostrel ba", "it"), ElementsAre("batch"));
 }
 
 TEST(ManualPage, IsReadByRoffWithoutAComplaint) {
