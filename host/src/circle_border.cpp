@@ -75,7 +75,8 @@ private:
     const int across = 1 - direction.axis;
     return std::any_of(
         slope_.centres.begin(), slope_.centres.end(), [&](const SlopeCentreInput& other) {
-          const double further = coordinate(other, direction.axis) - coordinate(centre_, direction.axis);
+          const double further =
+              coordinate(other, direction.axis) - coordinate(centre_, direction.axis);
           return direction.sign * further > same_m
               && (slope_.source == Source::centre_list
                   || same(coordinate(other, across), coordinate(centre_, across)));
@@ -122,9 +123,9 @@ private:
   }
 
   void add_ground(CircleSide side, GroundEdge edge) {
-    const double level_or_x = edge == GroundEdge::front  ? ground_.left
-                            : edge == GroundEdge::back   ? ground_.right
-                                                         : ground_.bottom;
+    const double level_or_x = edge == GroundEdge::front ? ground_.left
+                            : edge == GroundEdge::back  ? ground_.right
+                                                        : ground_.bottom;
     if (!project_.ground.by_levels) return add(side, "ground.layers[].polygons_m", level_or_x);
     if (edge == GroundEdge::bottom) return add(side, "ground.bottom_level_m", level_or_x);
     add(side, edge == GroundEdge::front ? "ground.excavated_width_m" : "ground.retained_width_m",
@@ -193,7 +194,8 @@ std::vector<CircleBorder> borders_of(const Project& project, double x_m, double 
   const auto& centres = project.slope->centres;
   const auto centre =
       std::find_if(centres.begin(), centres.end(), [&](const SlopeCentreInput& each) {
-        return same(each.x_m, x_m) && same(each.y_m, y_m) && radius_m >= each.least_radius_m - same_m
+        return same(each.x_m, x_m) && same(each.y_m, y_m)
+            && radius_m >= each.least_radius_m - same_m
             && radius_m <= each.largest_radius_m + same_m;
       });
   if (centre == centres.end()) return {};
@@ -206,9 +208,8 @@ std::vector<std::string> border_warnings(const Project& project,
   std::map<std::string, std::string> combinations;
   for (const xSlopeStability& result : design.getResults()) {
     if (!(result.getSf() < unlimited)) continue;
-    const std::vector<CircleBorder> borders =
-        borders_of(project, m_of_mm(result.getXC()), m_of_mm(result.getYC()),
-                   m_of_mm(result.getRadius()));
+    const std::vector<CircleBorder> borders = borders_of(
+        project, m_of_mm(result.getXC()), m_of_mm(result.getYC()), m_of_mm(result.getRadius()));
     if (borders.empty()) continue;
     const std::string text = advice(borders, texts);
     std::string& names = combinations[text];

@@ -14,12 +14,12 @@
 namespace ostrel::host {
 
 enum class CircleSide : std::int32_t {
-  left,     ///< no centre further in front of the wall
-  right,    ///< none further behind it
-  low,      ///< none below
-  high,     ///< none above
-  smallest, ///< the smallest radius tried at its centre
-  largest   ///< the largest
+  left,      ///< no centre further in front of the wall
+  right,     ///< none further behind it
+  low,       ///< none below
+  high,      ///< none above
+  smallest,  ///< the smallest radius tried at its centre
+  largest    ///< the largest
 };
 
 /// A border of the search, and the field of the project that would move it.

@@ -2,6 +2,7 @@
 /// @file  The command `ostrel export`. Room: host
 // SPDX-License-Identifier: Apache-2.0
 
+#include "export_files.h"
 #include "texts.h"
 
 #include <iosfwd>
@@ -11,10 +12,8 @@ namespace ostrel::host {
 
 struct ExportOptions {
   std::string project_file;
-  std::string presets_file;   ///< standards; empty for those of the program
-  std::string workbook_file;  ///< XLSX; empty for none
-  std::string tables_file;    ///< JSON; empty for none
-  std::string print_file;     ///< PDF; empty for none
+  std::string presets_file;  ///< standards; empty for those of the program
+  ExportFiles files;
   Texts texts{Language::english};
 };
 

@@ -140,12 +140,7 @@ private:
         ->add_option("PROJECT.json", export_options_.project_file,
                      described(texts_, Text::file_of_project))
         ->required();
-    const auto add_target = [this](const char* name, std::string& file, const Phrase& description) {
-      export_->add_option(name, file, described(texts_, description))->type_name("FILE");
-    };
-    add_target("--xlsx", export_options_.workbook_file, phrase::file_for_workbook);
-    add_target("--json", export_options_.tables_file, phrase::file_for_tables);
-    add_target("--pdf", export_options_.print_file, phrase::file_for_print);
+    add_exports(*export_, export_options_.files);
     add_presets(*export_, export_options_.presets_file);
   }
 
@@ -186,7 +181,17 @@ private:
     add_limit(run_, run_options_.fail_below);
     run_->add_option("--report", run_options_.report_file, described(texts_, Text::file_for_report))
         ->type_name("FILE");
+    add_exports(*run_, run_options_.exports);
     add_presets(*run_, run_options_.presets_file);
+  }
+
+  void add_exports(CLI::App& command, ExportFiles& files) {
+    const auto add = [&](const char* name, std::string& file, const Phrase& description) {
+      command.add_option(name, file, described(texts_, description))->type_name("FILE");
+    };
+    add("--xlsx", files.workbook_file, phrase::file_for_workbook);
+    add("--json", files.tables_file, phrase::file_for_tables);
+    add("--pdf", files.print_file, phrase::file_for_print);
   }
 
   void add_presets(CLI::App& command, std::string& file) {
@@ -226,6 +231,7 @@ private:
                      described(texts_, Text::file_for_report))
         ->type_name("FILE")
         ->required();
+    add_exports(*report_, report_options_.exports);
     add_presets(*report_, report_options_.presets_file);
   }
 

@@ -41,15 +41,20 @@ bool write_report(const std::string& file, const Project& project, const Job& jo
 }
 
 int report_project(const ReportOptions& options, std::ostream& out, std::ostream& err) {
-  const std::optional<Project> project =
-      load_project({options.project_file, options.presets_file}, options.texts, err).project;
+  const ProjectSource source{options.project_file, options.presets_file};
+  const std::optional<Project> project = load_project(source, options.texts, err).project;
   if (!project) return exit_bad_input;
-  if (!may_write_report(options.report_file, options.texts, err)) return exit_bad_input;
+  const Exports exports(options.exports, options.texts, out, err);
+  if (!outputs_differ(source, options.exports, {{"-o", options.report_file}}, options.texts, err)
+      || !may_write_report(options.report_file, options.texts, err) || !exports.ready()) {
+    return exit_bad_input;
+  }
   const Job job = to_job(*project);
   const Outcome outcome = analyse(job);
-  for (const std::string& message : messages_of(*project, outcome, options.texts))
+  for (const std::string& message : messages_of(*project, job, outcome, options.texts))
     err << fitted(message, columns_of(message)) << "\n";
-  if (!write_report(options.report_file, *project, job, outcome, options.texts, out, err)) {
+  if (!write_report(options.report_file, *project, job, outcome, options.texts, out, err)
+      || !exports.write(*project, job, outcome)) {
     return exit_bad_input;
   }
   return outcome.verdict == veldError ? exit_analysis_failed : exit_fine;

@@ -3,6 +3,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "analysis.h"
+#include "export_files.h"
 #include "project.h"
 #include "texts.h"
 
@@ -15,6 +16,7 @@ struct ReportOptions {
   std::string project_file;
   std::string presets_file;  ///< standards; empty for those of the program
   std::string report_file;
+  ExportFiles exports;
   Texts texts{Language::english};  ///< also the language in which the report opens
 };
 

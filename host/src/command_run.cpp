@@ -22,9 +22,11 @@
 #include <fmt/format.h>
 
 #include <chrono>
+#include <filesystem>
 #include <optional>
 #include <ostream>
 #include <system_error>
+#include <vector>
 
 namespace ostrel::host {
 
@@ -50,49 +52,82 @@ void tell_more(const Job& job, const Outcome& outcome, double seconds, const Tex
   }
 }
 
+class Run {
+public:
+  Run(const RunOptions& options, std::ostream& out, std::ostream& err)
+      : options_(options),
+        out_(out),
+        err_(err),
+        exports_(options.exports, options.texts, out, err) {}
+
+  int go() {
+    const ProjectSource source{options_.project_file, options_.presets_file};
+    const std::optional<Project> project = load_project(source, options_.texts, err_).project;
+    if (!project || !ready(source)) return exit_bad_input;
+    const Job job = to_job(*project);
+    const auto start = std::chrono::steady_clock::now();
+    const Outcome outcome = watched_analysis(job, options_, err_);
+    const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
+    const RunData data = run_data_of(*project, job, outcome, options_.texts);
+    const int status = print_run(data, options_.fail_below, options_.texts, out_, err_);
+    if (options_.verbose) tell_more(job, outcome, time.count(), options_.texts, err_);
+    return write(*project, job, outcome, data) ? status : exit_bad_input;
+  }
+
+private:
+  // Whether everything asked for can be written, tried before the analysis.
+  bool ready(const ProjectSource& source) const {
+    std::vector<NamedFile> outputs{{"--save", options_.results_file},
+                                   {"--report", options_.report_file},
+                                   {"-o", options_.folder}};
+    if (!options_.folder.empty()) {
+      for (const char* name : {"result.json", "tables.json"})
+        outputs.push_back({"-o", (std::filesystem::path(options_.folder) / name).string()});
+    }
+    if (!outputs_differ(source, options_.exports, outputs, options_.texts, err_)) return false;
+    if (!options_.folder.empty()) {
+      if (const auto error = prepare_results(options_.folder))
+        return cannot_write(options_.folder, error);
+    }
+    if (!options_.results_file.empty()) {
+      if (const auto error = try_writing(options_.results_file))
+        return cannot_write(options_.results_file, error);
+    }
+    return may_write_report(options_.report_file, options_.texts, err_) && exports_.ready();
+  }
+
+  bool write(const Project& project, const Job& job, const Outcome& outcome,
+             const RunData& data) const {
+    if (!options_.folder.empty()) {
+      if (const auto failure =
+              write_results(options_.folder, project, job, outcome, options_.texts.language()))
+        return cannot_write(failure->file, failure->error);
+      out_ << "\n" << options_.texts(Text::written_to, options_.folder) << "\n";
+    }
+    if (!options_.results_file.empty()) {
+      if (const auto error = write_whole(options_.results_file, saved_bytes(data, outcome.results)))
+        return cannot_write(options_.results_file, error);
+      out_ << "\n" << options_.texts(Text::saved_to, options_.results_file) << "\n";
+    }
+    return write_report(options_.report_file, project, job, outcome, options_.texts, out_, err_)
+        && exports_.write(project, job, outcome);
+  }
+
+  bool cannot_write(const std::string& path, const std::error_code& error) const {
+    err_ << options_.texts(Text::cannot_write, path, reason_of(error, options_.texts)) << "\n";
+    return false;
+  }
+
+  const RunOptions& options_;
+  std::ostream& out_;
+  std::ostream& err_;
+  Exports exports_;
+};
+
 }  // namespace
 
 int run_project(const RunOptions& options, std::ostream& out, std::ostream& err) {
-  const std::optional<Project> project =
-      load_project({options.project_file, options.presets_file}, options.texts, err).project;
-  if (!project) return exit_bad_input;
-  const auto cannot_write = [&](const std::string& path, const std::error_code& error) {
-    err << options.texts(Text::cannot_write, path, reason_of(error, options.texts)) << "\n";
-    return exit_bad_input;
-  };
-  const bool to_files = !options.folder.empty();
-  const bool to_save = !options.results_file.empty();
-  if (to_files) {
-    if (const auto error = prepare_results(options.folder))
-      return cannot_write(options.folder, error);
-  }
-  if (to_save) {
-    if (const auto error = try_writing(options.results_file))
-      return cannot_write(options.results_file, error);
-  }
-  if (!may_write_report(options.report_file, options.texts, err)) return exit_bad_input;
-  const Job job = to_job(*project);
-  const auto start = std::chrono::steady_clock::now();
-  const Outcome outcome = watched_analysis(job, options, err);
-  const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
-  const RunData data = run_data_of(*project, job, outcome, options.texts);
-  const int status = print_run(data, options.fail_below, options.texts, out, err);
-  if (options.verbose) tell_more(job, outcome, time.count(), options.texts, err);
-  if (to_files) {
-    if (const auto failure =
-            write_results(options.folder, *project, job, outcome, options.texts.language()))
-      return cannot_write(failure->file, failure->error);
-    out << "\n" << options.texts(Text::written_to, options.folder) << "\n";
-  }
-  if (to_save) {
-    if (const auto error = write_whole(options.results_file, saved_bytes(data, outcome.results)))
-      return cannot_write(options.results_file, error);
-    out << "\n" << options.texts(Text::saved_to, options.results_file) << "\n";
-  }
-  if (!write_report(options.report_file, *project, job, outcome, options.texts, out, err)) {
-    return exit_bad_input;
-  }
-  return status;
+  return Run(options, out, err).go();
 }
 
 }  // namespace ostrel::host

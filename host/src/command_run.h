@@ -2,6 +2,7 @@
 /// @file  The command `ostrel run`. Room: host
 // SPDX-License-Identifier: Apache-2.0
 
+#include "export_files.h"
 #include "texts.h"
 
 #include <iosfwd>
@@ -12,10 +13,11 @@ namespace ostrel::host {
 
 struct RunOptions {
   std::string project_file;
-  std::string presets_file;          ///< standards; empty for those of the program
-  std::string folder;                ///< for the files; empty for none
-  std::string report_file;           ///< for the report; empty for none
-  std::string results_file;          ///< to save the results in; empty for none
+  std::string presets_file;  ///< standards; empty for those of the program
+  std::string folder;        ///< for the files; empty for none
+  std::string report_file;   ///< for the report; empty for none
+  std::string results_file;  ///< to save the results in; empty for none
+  ExportFiles exports;
   std::optional<double> fail_below;  ///< the factor that every verification has to reach
   bool verbose = false;              ///< also time and equilibrium
   bool quiet = false;                ///< nothing but errors

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "equilibrium.h"
 
+#include "phrases.h"
+
+#include <fmt/format.h>
+
+#include <cmath>
 #include <cstddef>
 #include <map>
 #include <set>
@@ -18,6 +23,21 @@ ForceSum sum_of(const NodeForces& forces, const xFemData& fem) {
     sum.moment += force.y * fem.nodes[static_cast<std::size_t>(node)].y + force.r;
   }
   return sum;
+}
+
+// The sizes of the loads one by one, which do not cancel each other.
+ForceSum load_sizes_of(const xFemResults& results) {
+  ForceSum sum;
+  for (const xFemNodeData_pos& load : results.appliedForces) {
+    sum += {.across = std::abs(load.data.y),
+            .along = std::abs(load.data.x),
+            .moment = std::abs(load.data.y * load.pos + load.data.r)};
+  }
+  return sum;
+}
+
+double ratio(double rest, double size) {
+  return rest <= 0.0 ? 0.0 : rest / size;
 }
 
 ForceSum loads_of(const xFemResults& results) {
@@ -106,6 +126,22 @@ ForceSum Balance::residual() const {
   return sum;
 }
 
+double Balance::relative_residual() const {
+  const ForceSum rest = residual();
+  const double forces =
+      ratio(std::hypot(rest.across, rest.along), std::hypot(load_sizes.across, load_sizes.along));
+  const double moments = ratio(std::abs(rest.moment), load_sizes.moment);
+  return std::isnan(forces) || forces > moments ? forces : moments;
+}
+
+std::string balance_sentence(double relative_residual, const Texts& texts) {
+  if (relative_residual <= small_residual) return "";
+  if (!std::isfinite(relative_residual)) {
+    return std::string(phrase::residual_without_measure.in(texts));
+  }
+  return phrase::residual_not_small.in(texts, fmt::format("{:.2g}", 100.0 * relative_residual));
+}
+
 NodeForces elastic_support_forces(const Outcome& outcome, const xCombResults& combination) {
   return elastic_forces(outcome.model.fem, combination.femResults);
 }
@@ -129,7 +165,8 @@ Balance balance_of(const Job& job, const Outcome& outcome, const xCombResults& c
           .soil = sum_of(soil_forces(results), fem),
           .anchors = sum_of(anchor_forces(job, outcome, results), fem),
           .elastic_supports = sum_of(elastic_forces(fem, results), fem),
-          .fixed_supports = sum_of(fixed_support_forces(job, outcome, combination), fem)};
+          .fixed_supports = sum_of(fixed_support_forces(job, outcome, combination), fem),
+          .load_sizes = load_sizes_of(results)};
 }
 
 }  // namespace ostrel::host

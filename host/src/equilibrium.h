@@ -3,8 +3,10 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "analysis.h"
+#include "texts.h"
 
 #include <map>
+#include <string>
 
 namespace ostrel::host {
 
@@ -27,9 +29,23 @@ struct Balance {
   ForceSum anchors;
   ForceSum elastic_supports;
   ForceSum fixed_supports;
+  ForceSum load_sizes;  ///< of the loads one by one, without their signs
 
   ForceSum residual() const;
+  /// The residual by the size of the loads [-], of the forces or of the moments, whichever is more:
+  ///
+  ///     max(|R| / hypot(sum |across|, sum |along|), |M| / sum |moment|)
+  ///
+  /// @return infinite for a residual without loads; not a number where a part is none
+  double relative_residual() const;
 };
+
+/// The largest relative residual of results that can be used: the equations are solved to about
+/// 1e-7, and a thousandth of the loads moves no verdict.
+inline constexpr double small_residual = 1e-3;
+
+/// That the forces are not in balance, and by how much; empty for a small residual.
+std::string balance_sentence(double relative_residual, const Texts& texts);
 
 /// Forces by node: x along the wall, y across it, r the moment, as in `ForceSum`.
 using NodeForces = std::map<int, xFemNodeData>;

@@ -136,6 +136,28 @@ inline constexpr Phrase out_of_balance{
     "{0}: fuori equilibrio per {1} kN in orizzontale, {2} kN in verticale, {3} kNm",
     "{0}: out of balance by {1} kN across, {2} kN along the wall, {3} kNm"};  // combination, kN, kN, kNm
 inline constexpr Phrase warning{"Attenzione: {0}", "Warning: {0}"};
+inline constexpr Phrase residual_horizontal{"Residuo orizzontale (verso terra)",
+                                            "Residual across (towards the ground)"};
+inline constexpr Phrase residual_vertical{"Residuo verticale (verso il basso)",
+                                          "Residual along the wall (downwards)"};
+inline constexpr Phrase residual_moment{"Residuo del momento alla testa",
+                                        "Residual moment about the head"};
+inline constexpr Phrase residual_relative{"Residuo rispetto ai carichi",
+                                          "Residual relative to the loads"};
+inline constexpr Phrase residual_not_small{
+    "le forze non sono in equilibrio: il residuo è il {0} % dei carichi, i risultati non sono "
+    "affidabili",
+    "the forces are not in balance: the residual is {0} % of the loads, do not rely on the "
+    "results"};  // per cent
+inline constexpr Phrase residual_without_measure{
+    "non si può dire se le forze siano in equilibrio, i risultati non sono affidabili",
+    "whether the forces are in balance cannot be told, do not rely on the results"};
+inline constexpr Phrase overwrites_input{
+    "{0}: {1} sovrascriverebbe un file che si legge",
+    "{0}: {1} would write over a file that is read"};  // file, argument
+inline constexpr Phrase written_twice{
+    "{0}: {1} e {2} scriverebbero lo stesso file",
+    "{0}: {1} and {2} would write the same file"};  // file, argument, argument
 inline constexpr Phrase circle_on_border{
     "{0}: il cerchio critico sta sul bordo della ricerca, uno peggiore può starne fuori; estendere "
     "{1}",

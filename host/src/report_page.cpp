@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "report_page.h"
 
-#include "circle_border.h"
 #include "figures.h"
 #include "report_block.h"
 #include "report_files.h"
 #include "report_input.h"
 #include "report_results.h"
+#include "run_data.h"
 #include "section_drawing.h"
 #include "svg.h"
 
@@ -55,7 +55,7 @@ std::string filled(std::string_view page, const std::map<std::string_view, std::
   return result += page;
 }
 
-OrderedJson message_block(const Project& project, const Outcome& outcome) {
+OrderedJson message_block(const Project& project, const Job& job, const Outcome& outcome) {
   static const Both error{"Errore:", "Error:"};
   static const Both warning{"Attenzione:", "Warning:"};
   static const Both remark{"Informazione:", "Information:"};
@@ -71,9 +71,8 @@ OrderedJson message_block(const Project& project, const Outcome& outcome) {
                                             : remark},
                      {"text", message.GetErrorStr()}});
   }
-  const xSlopeStabilityDesign& circles = outcome.ultimate.slopeStabilityDesign;
-  const auto italian = border_warnings(project, circles, Texts(Language::italian));
-  const auto english = border_warnings(project, circles, Texts(Language::english));
+  const auto italian = result_warnings(project, job, outcome, Texts(Language::italian));
+  const auto english = result_warnings(project, job, outcome, Texts(Language::english));
   for (std::size_t i = 0; i < english.size(); ++i) {
     items.push_back(
         {{"severity", "warning"}, {"label", warning}, {"text", Both{italian[i], english[i]}}});
@@ -91,7 +90,7 @@ OrderedJson result_blocks(const Project& project, const Job& job, const Outcome&
   }
   for (OrderedJson& block : overview_blocks(project, job, outcome, figures))
     blocks.push_back(std::move(block));
-  OrderedJson messages = message_block(project, outcome);
+  OrderedJson messages = message_block(project, job, outcome);
   if (!messages.is_null()) blocks.push_back(std::move(messages));
   return blocks;
 }

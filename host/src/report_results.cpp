@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "report_results.h"
 
+#include "equilibrium.h"
 #include "report_block.h"
 #include "report_input.h"
 #include "summary.h"
@@ -77,14 +78,77 @@ OrderedJson extreme_table(const Summary& summary) {
   return table.block();
 }
 
-OrderedJson anchor_force_table(const Project& project, const Summary& summary) {
+// Down to two decimals, so that a factor below the limit never shows as the limit.
+double shown(double factor) {
+  return factor < unlimited ? std::floor(100.0 * factor) / 100.0 : factor;
+}
+
+// Resistance and factor, or two empty cells.
+void add_check(const xAnchorResults* result, std::vector<OrderedJson>& cells) {
+  if (result == nullptr) {
+    cells.insert(cells.end(), 2, OrderedJson());
+    return;
+  }
+  cells.emplace_back(kn_of_n(result->getRd()));
+  cells.emplace_back(shown(result->getSf()));
+}
+
+OrderedJson anchor_force_table(const Project& project, const Outcome& outcome,
+                               const Summary& summary) {
   ReportTable table(
       fmt::format("anchor-forces-{:02}", summary.index),
-      {"Tiranti, forza in uno", "Anchors, force in one"},
-      {{{"Tirante", "Anchor"}}, {{"Profondità", "Depth"}, "m", 2}, {{"Forza", "Force"}, "kN", 1}});
-  for (std::size_t i = 0; i < summary.anchors.size(); ++i) {
-    table.add(
-        {name_of_anchor(project, i), summary.anchors[i].depth_m, summary.anchors[i].force_kN});
+      {"Tiranti: forza in uno (trazione positiva, pretensione compresa), ciò che dà alla paratia, "
+       "spostamento della paratia al tirante, resistenze",
+       "Anchors: force in one (tension positive, prestress included), what it puts on the wall, "
+       "displacement of the wall at the anchor, resistances"},
+      {{{"Tirante", "Anchor"}},
+       {{"Profondità", "Depth"}, "m", 2},
+       {{"Forza", "Force"}, "kN", 1},
+       {{"Orizzontale, verso terra", "Horizontal, towards the ground"}, "kN", 1},
+       {{"Verticale, verso il basso", "Vertical, downwards"}, "kN", 1},
+       {{"di cui pretensione", "of it prestress"}, "kN", 1},
+       {{"Rigidezza su un palo o pannello", "Stiffness on one pile or panel"}, "kN/m", 0},
+       {{"Spostamento verso lo scavo", "Displacement towards the excavation"}, "mm", 1},
+       {{"Rd trefoli", "Rd of the tendon"}, "kN", 1},
+       {{"F trefoli", "F of the tendon"}, "", 2},
+       {{"Rd sfilamento", "Rd of the bond"}, "kN", 1},
+       {{"F sfilamento", "F of the bond"}, "", 2}});
+  for (const AnchorState& anchor : summary.anchors) {
+    std::vector<OrderedJson> cells{name_of_anchor(project, anchor.place),
+                                   anchor.depth_m,
+                                   anchor.force_kN,
+                                   anchor.horizontal_kN,
+                                   anchor.vertical_kN,
+                                   anchor.prestress_kN,
+                                   anchor.stiffness_kN_m,
+                                   anchor.head_displacement_mm};
+    const xUltimateLimitStates& ultimate = outcome.ultimate;
+    add_check(anchor_result(ultimate.structuralAnchorDesign.anchors, anchor.place, summary.index),
+              cells);
+    add_check(anchor_result(ultimate.geotechnicalAnchorDesign.anchors, anchor.place, summary.index),
+              cells);
+    table.add(std::move(cells));
+  }
+  return table.block();
+}
+
+// What is left over of the sum of all forces on the wall in each combination.
+OrderedJson balance_table(const Job& job, const Outcome& outcome) {
+  ReportTable table("balance",
+                    {"Equilibrio globale: ciò che resta della somma delle forze sulla paratia",
+                     "Global equilibrium: what is left of the sum of the forces on the wall"},
+                    {{{"Combinazione", "Combination"}},
+                     {{"Orizzontale, verso terra", "Horizontal, towards the ground"}, "kN"},
+                     {{"Verticale, verso il basso", "Vertical, downwards"}, "kN"},
+                     {{"Momento alla testa", "Moment about the head"}, "kNm"},
+                     {{"rispetto ai carichi", "relative to the loads"}},
+                     {{"Esito", "Outcome"}}});
+  const auto powers = [](double value) { return fmt::format("{:.1e}", value); };
+  for (const xCombResults& combination : outcome.results.combResults) {
+    const Residual rest = summary_of(job, outcome, combination).residual;
+    table.add({combination.getCombName(), powers(rest.towards_retained_kN),
+               powers(rest.downwards_kN), powers(rest.moment_kNm), powers(rest.relative_to_loads),
+               verdict_cell(rest.relative_to_loads <= small_residual)});
   }
   return table.block();
 }
@@ -154,11 +218,6 @@ OrderedJson stretch_table(const xReinforcement& reinforcement, bool rectangle) {
     first = next;
   }
   return table.block();
-}
-
-// Down to two decimals, so that a factor below the limit never shows as the limit.
-double shown(double factor) {
-  return factor < unlimited ? std::floor(100.0 * factor) / 100.0 : factor;
 }
 
 // What the library says of each verification that is not satisfied, in its language.
@@ -244,6 +303,7 @@ OrderedJson overview_blocks(const Project& project, const Job& job, const Outcom
   }
   OrderedJson blocks = OrderedJson::array();
   blocks.push_back(table.block());
+  if (!outcome.results.combResults.empty()) blocks.push_back(balance_table(job, outcome));
   const std::vector<std::string> ids = ids_of(figures, 0);
   if (!ids.empty()) blocks.push_back(figures_block(ids));
   return blocks;
@@ -266,7 +326,7 @@ OrderedJson combination_blocks(const Project& project, const Job& job, const Out
     }
     const Summary summary = summary_of(job, outcome, *result);
     blocks.push_back(extreme_table(summary));
-    if (!summary.anchors.empty()) blocks.push_back(anchor_force_table(project, summary));
+    if (!summary.anchors.empty()) blocks.push_back(anchor_force_table(project, outcome, summary));
     if (!summary.supports.empty()) blocks.push_back(support_force_table(summary));
     blocks.push_back(figures_block(ids_of(figures, summary.index)));
   }

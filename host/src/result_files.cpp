@@ -72,7 +72,7 @@ std::vector<ResultFile> result_files(const Project& project, const Job& job, con
   const std::vector<ResultTable> tables = result_tables(project, job, outcome, texts);
   for (const ResultTable& table : tables)
     files.push_back({file_name(table), csv_of(table)});
-  files.push_back({"tables.json", tables_json(head_of(project, outcome, texts), tables)});
+  files.push_back({"tables.json", tables_json(head_of(project, job, outcome, texts), tables)});
   for (const Figure& figure : figures(project, job, outcome))
     files.push_back(figure_file(figure, language));
   return files;

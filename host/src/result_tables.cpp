@@ -206,31 +206,31 @@ ResultTable reinforcement_rows(const Outcome& outcome, bool designed) {
   return table;
 }
 
-// Resistance and factor of an anchor in a combination, from the verification of all anchors.
-template <class Anchor>
-void add_anchor_check(const std::vector<Anchor>& anchors, std::size_t place, int combination,
-                      Row& row) {
-  if (place < anchors.size()) {
-    for (const xAnchorResults& result : anchors[place].combinations) {
-      if (result.getCombIndex() != combination) continue;
-      row.insert(row.end(), {number(kn_of_n(result.getFd())), number(kn_of_n(result.getRd())),
-                             factor(result.getSf())});
-      return;
-    }
+void add_anchor_check(const xAnchorResults* result, Row& row) {
+  if (result == nullptr) {
+    row.insert(row.end(), 3, TableCell());
+    return;
   }
-  row.insert(row.end(), 3, TableCell());
+  row.insert(row.end(), {number(kn_of_n(result->getFd())), number(kn_of_n(result->getRd())),
+                         factor(result->getSf())});
 }
 
 void add_anchors(const Project& project, const Outcome& outcome, const Summary& summary,
                  ResultTable& table) {
   const xUltimateLimitStates& ultimate = outcome.ultimate;
-  for (std::size_t i = 0; i < summary.anchors.size(); ++i) {
-    const AnchorState& anchor = summary.anchors[i];
-    const std::string name = i < project.anchors.size() ? project.anchors[i].name : "";
-    Row row{text(summary.name), number(static_cast<double>(i + 1)), text(name),
-            number(anchor.depth_m), number(anchor.force_kN)};
-    add_anchor_check(ultimate.structuralAnchorDesign.anchors, i, summary.index, row);
-    add_anchor_check(ultimate.geotechnicalAnchorDesign.anchors, i, summary.index, row);
+  for (const AnchorState& anchor : summary.anchors) {
+    const std::size_t place = anchor.place;
+    const std::string name = place < project.anchors.size() ? project.anchors[place].name : "";
+    Row row{text(summary.name), number(static_cast<double>(place + 1)), text(name)};
+    for (const double value :
+         {anchor.depth_m, anchor.force_kN, anchor.horizontal_kN, anchor.vertical_kN,
+          anchor.prestress_kN, anchor.stiffness_kN_m, anchor.share, anchor.head_displacement_mm,
+          anchor.head_settlement_mm})
+      row.push_back(number(value));
+    add_anchor_check(anchor_result(ultimate.structuralAnchorDesign.anchors, place, summary.index),
+                     row);
+    add_anchor_check(anchor_result(ultimate.geotechnicalAnchorDesign.anchors, place, summary.index),
+                     row);
     table.rows.push_back(std::move(row));
   }
 }
@@ -247,6 +247,7 @@ void add_balance(const Summary& summary, const Balance& balance, ResultTable& ta
   for (const auto& [name, sum] : parts) {
     table.rows.push_back({text(summary.name), text(name), number(kn_of_n(sum->across)),
                           number(kn_of_n(sum->along)), number(knm_of_nmm(sum->moment))});
+    if (sum == &residual) table.rows.back().push_back(number(summary.residual.relative_to_loads));
   }
 }
 
@@ -263,13 +264,15 @@ std::vector<ResultTable> result_tables(const Project& project, const Job& job,
                                        const Outcome& outcome, const Texts& texts) {
   ResultTable summaries{.subject = "summary",
                         .columns = {"combination", "quantity", "value", "depth_m"}};
-  ResultTable anchors{.subject = "anchors",
-                      .columns = {"combination", "anchor", "name", "depth_m", "force_kN",
-                                  "tendon_force_kN", "tendon_resistance_kN", "tendon_factor",
-                                  "pullout_force_kN", "pullout_resistance_kN", "pullout_factor"}};
+  ResultTable anchors{
+      .subject = "anchors",
+      .columns = {"combination", "anchor", "name", "depth_m", "force_kN", "horizontal_kN",
+                  "vertical_kN", "prestress_kN", "stiffness_kN_m", "share", "head_displacement_mm",
+                  "head_settlement_mm", "tendon_force_kN", "tendon_resistance_kN", "tendon_factor",
+                  "pullout_force_kN", "pullout_resistance_kN", "pullout_factor"}};
   ResultTable equilibrium{.subject = "equilibrium",
                           .columns = {"combination", "part", "towards_retained_kN", "downwards_kN",
-                                      "moment_about_head_kNm"}};
+                                      "moment_about_head_kNm", "relative_to_loads"}};
   std::vector<ResultTable> of_each;
   for (const xCombResults& combination : outcome.results.combResults) {
     const Summary summary = summary_of(job, outcome, combination);

@@ -17,7 +17,7 @@ namespace {
 
 // A conversion of line ends, as of texts, changes it.
 constexpr std::string_view magic = "ostrel results\r\n";
-constexpr int newest_version = 1;
+constexpr int newest_version = 2;
 
 // FNV-1a of 64 bits.
 std::int64_t checksum_of(std::string_view bytes) {
@@ -124,9 +124,18 @@ void pass(Way& way, Summary& summary) {
   summary.yielding = static_cast<std::size_t>(yielding);
   way.list(summary.springs, [&](SpringState& spring) { pass(way, spring); });
   way.list(summary.anchors, [&](AnchorState& anchor) {
-    way.value(anchor.depth_m);
-    way.value(anchor.force_kN);
+    auto place = static_cast<std::int64_t>(anchor.place);
+    way.value(place);
+    anchor.place = static_cast<std::size_t>(place);
+    for (double* field : {&anchor.depth_m, &anchor.force_kN, &anchor.horizontal_kN,
+                          &anchor.vertical_kN, &anchor.prestress_kN, &anchor.stiffness_kN_m,
+                          &anchor.share, &anchor.head_displacement_mm, &anchor.head_settlement_mm})
+      way.value(*field);
   });
+  Residual& residual = summary.residual;
+  for (double* field : {&residual.towards_retained_kN, &residual.downwards_kN, &residual.moment_kNm,
+                        &residual.relative_to_loads})
+    way.value(*field);
   way.list(summary.supports, [&](SupportState& support) { pass(way, support); });
 }
 

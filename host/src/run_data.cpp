@@ -2,6 +2,7 @@
 #include "run_data.h"
 
 #include "circle_border.h"
+#include "equilibrium.h"
 #include "phrases.h"
 
 #include <cstddef>
@@ -45,19 +46,32 @@ RunData run_data_of(const Project& project, const Job& job, const Outcome& outco
   }
   data.notes = project.notes;
   data.through = outcome.verdict != veldError;
-  data.messages = messages_of(project, outcome, texts);
+  data.messages = messages_of(project, job, outcome, texts);
   data.ultimate = outcome.ultimate;
   data.serviceability = outcome.serviceability;
   return data;
 }
 
-std::vector<std::string> messages_of(const Project& project, const Outcome& outcome,
+std::vector<std::string> result_warnings(const Project& project, const Job& job,
+                                         const Outcome& outcome, const Texts& texts) {
+  std::vector<std::string> warnings;
+  for (const xCombResults& combination : outcome.results.combResults) {
+    const std::string sentence =
+        balance_sentence(balance_of(job, outcome, combination).relative_residual(), texts);
+    if (!sentence.empty()) warnings.push_back(combination.getCombName() + ": " + sentence);
+  }
+  for (std::string& warning :
+       border_warnings(project, outcome.ultimate.slopeStabilityDesign, texts))
+    warnings.push_back(std::move(warning));
+  return warnings;
+}
+
+std::vector<std::string> messages_of(const Project& project, const Job& job, const Outcome& outcome,
                                      const Texts& texts) {
   std::vector<std::string> messages;
   for (const xVeldError& message : outcome.messages)
     messages.push_back(message.MakeErrStr());
-  for (const std::string& warning :
-       border_warnings(project, outcome.ultimate.slopeStabilityDesign, texts))
+  for (const std::string& warning : result_warnings(project, job, outcome, texts))
     messages.push_back(phrase::warning.in(texts, warning));
   return messages;
 }

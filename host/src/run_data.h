@@ -40,8 +40,12 @@ struct RunData {
 RunData run_data_of(const Project& project, const Job& job, const Outcome& outcome,
                     const Texts& texts);
 
-/// What the analysis says, in its language, then warnings about its results.
-std::vector<std::string> messages_of(const Project& project, const Outcome& outcome,
+/// Warnings about results: forces out of balance, slip circles on the border of their search.
+std::vector<std::string> result_warnings(const Project& project, const Job& job,
+                                         const Outcome& outcome, const Texts& texts);
+
+/// What the analysis says, in its language, then the warnings about its results.
+std::vector<std::string> messages_of(const Project& project, const Job& job, const Outcome& outcome,
                                      const Texts& texts);
 
 }  // namespace ostrel::host

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "run_report.h"
 
+#include "equilibrium.h"
+#include "phrases.h"
 #include "slope_table.h"
 #include "text_table.h"
 #include "verification_table.h"
@@ -89,9 +91,9 @@ private:
         {texts_(Text::yielding_row, summary.springs.size()), fmt::format("{}", summary.yielding)});
     table.add_row(
         {std::string(texts_(Text::mobilised_row)), number(100.0 * summary.mobilised), "%"});
-    for (std::size_t i = 0; i < summary.anchors.size(); ++i) {
-      const AnchorState& anchor = summary.anchors[i];
-      table.add_row({anchor_label(i), number(anchor.force_kN), "kN", depth(anchor.depth_m)});
+    for (const AnchorState& anchor : summary.anchors) {
+      table.add_row(
+          {anchor_label(anchor.place), number(anchor.force_kN), "kN", depth(anchor.depth_m)});
     }
     for (const SupportState& support : summary.supports) {
       const auto part = [&](Text label, const std::optional<double>& value, const char* unit) {
@@ -102,7 +104,16 @@ private:
       part(Text::support_vertical_row, support.vertical_kN, "kN");
       part(Text::support_moment_row, support.moment_kNm, "kNm");
     }
-    return table.render();
+    const auto rest = [&](const Phrase& label, double value, const char* unit) {
+      table.add_row({std::string(label.in(texts_)), fmt::format("{:.1e}", value), unit});
+    };
+    rest(phrase::residual_horizontal, summary.residual.towards_retained_kN, "kN");
+    rest(phrase::residual_vertical, summary.residual.downwards_kN, "kN");
+    rest(phrase::residual_moment, summary.residual.moment_kNm, "kNm");
+    rest(phrase::residual_relative, summary.residual.relative_to_loads, "");
+    const std::string sentence = balance_sentence(summary.residual.relative_to_loads, texts_);
+    return table.render()
+         + (sentence.empty() ? "" : wrapped("! " + sentence, terminal_width, 2) + "\n");
   }
 
   std::string anchor_label(std::size_t place) const {

@@ -21,12 +21,18 @@ Extreme largest(const xDiagram& diagram, double scale) {
   return extreme;
 }
 
-double displacement_towards_excavation(const xFemResults& results, int node) {
+struct NodeDisplacement {
+  double towards_excavation = 0.0;  ///< [mm]
+  double downwards = 0.0;           ///< [mm]
+};
+
+// Of no node, and of one without displacements, none.
+NodeDisplacement displacement_of(const xFemResults& results, int node) {
   double along = 0.0;
   double across = 0.0;
   double rotation = 0.0;
   results.getDispNode(node, along, across, rotation);
-  return -across;
+  return {.towards_excavation = -across, .downwards = along};
 }
 
 SpringState state_of(const NodeModulus& spring, double pressure, double displacement) {
@@ -51,7 +57,7 @@ void add_springs(const xCombResults& combination, const xSheetpilingModel& model
     if (place < 0 || static_cast<std::size_t>(place) >= reactions.size()) continue;
     const SpringState state =
         state_of(spring, reactions[static_cast<std::size_t>(place)].value,
-                 displacement_towards_excavation(combination.femResults, node));
+                 displacement_of(combination.femResults, node).towards_excavation);
     if (state.use > summary.spring_use.value) {
       summary.spring_use = {.value = state.use, .depth_m = state.depth_m};
     }
@@ -97,6 +103,38 @@ void add_supports(const Job& job, const Outcome& outcome, const xCombResults& co
   }
 }
 
+void add_anchors(const Job& job, const Outcome& outcome, const xFemResults& results,
+                 Summary& summary) {
+  for (std::size_t i = 0; i < results.anchorSoll.size(); ++i) {
+    const xDiagram& axial = results.anchorSoll[i].axial;
+    AnchorState state{.place = i, .depth_m = m_of_mm(-axial.start.y)};
+    if (!axial.points.empty()) state.force_kN = kn_of_n(axial.points.front().value);
+    if (i < outcome.model.anchors.size()) {
+      const info_Fem_anchor& link = outcome.model.anchors[i];
+      state.place = static_cast<std::size_t>(link.id);
+      state.horizontal_kN = state.force_kN * link.cosA;
+      state.vertical_kN = state.force_kN * link.sinA;
+      state.stiffness_kN_m = kn_m_of_n_mm(link.kSS + link.kCC);
+      state.share = link.share;
+      const NodeDisplacement head = displacement_of(results, link.node);
+      state.head_displacement_mm = head.towards_excavation;
+      state.head_settlement_mm = head.downwards;
+    }
+    if (state.place < job.data.anchors.size()) {
+      state.prestress_kN = kn_of_n(job.data.anchors[state.place].getPreStress());
+    }
+    summary.anchors.push_back(state);
+  }
+}
+
+Residual residual_of(const Balance& balance) {
+  const ForceSum rest = balance.residual();
+  return {.towards_retained_kN = kn_of_n(rest.across),
+          .downwards_kN = kn_of_n(rest.along),
+          .moment_kNm = knm_of_nmm(rest.moment),
+          .relative_to_loads = balance.relative_residual()};
+}
+
 }  // namespace
 
 Summary summary_of(const Job& job, const Outcome& outcome, const xCombResults& combination) {
@@ -109,17 +147,13 @@ Summary summary_of(const Job& job, const Outcome& outcome, const xCombResults& c
   summary.shear_kN = largest(results.shear, kn_of_n(1.0));
   summary.axial_kN = largest(results.axial, kn_of_n(1.0));
   summary.displacement_mm = largest(results.dispTrans, -1.0);
-  summary.head_displacement_mm = displacement_towards_excavation(results, 0);
+  summary.head_displacement_mm = displacement_of(results, 0).towards_excavation;
   summary.excavation_displacement_mm =
-      displacement_towards_excavation(results, model.fem.getJtsoil());
+      displacement_of(results, model.fem.getJtsoil()).towards_excavation;
   add_springs(combination, model, summary);
   add_supports(job, outcome, combination, summary);
-  for (const AnchorSoll& anchor : results.anchorSoll) {
-    const bool has_force = !anchor.axial.points.empty();
-    summary.anchors.push_back(
-        {.depth_m = m_of_mm(-anchor.axial.start.y),
-         .force_kN = has_force ? kn_of_n(anchor.axial.points.front().value) : 0.0});
-  }
+  add_anchors(job, outcome, results, summary);
+  summary.residual = residual_of(balance_of(job, outcome, combination));
   return summary;
 }
 

@@ -32,8 +32,19 @@ struct SpringState {
 };
 
 struct AnchorState {
+  std::size_t place = 0;  ///< of the anchor in the project
   double depth_m = 0.0;
-  double force_kN = 0.0;  ///< of one anchor, prestress included
+  double force_kN = 0.0;  ///< of one anchor, prestress included, tension positive
+  /// @name What that force puts on the wall; towards the ground behind, and downwards, positive
+  ///@{
+  double horizontal_kN = 0.0;
+  double vertical_kN = 0.0;
+  ///@}
+  double prestress_kN = 0.0;
+  double stiffness_kN_m = 0.0;        ///< of all at its level on one pile or panel, along them
+  double share = 1.0;                 ///< of their force on a pile or panel that falls to one [-]
+  double head_displacement_mm = 0.0;  ///< of the wall there, towards the excavation
+  double head_settlement_mm = 0.0;    ///< likewise, downwards
 };
 
 /// What a support puts on the wall, in the parts that it holds.
@@ -42,6 +53,14 @@ struct SupportState {
   std::optional<double> horizontal_kN;  ///< positive towards the retained side
   std::optional<double> vertical_kN;    ///< positive upwards
   std::optional<double> moment_kNm;     ///< positive where it turns the head back
+};
+
+/// What is left over of the sum of all that acts on the wall, as `Balance` counts it.
+struct Residual {
+  double towards_retained_kN = 0.0;
+  double downwards_kN = 0.0;
+  double moment_kNm = 0.0;         ///< about the head
+  double relative_to_loads = 0.0;  ///< [-]
 };
 
 struct Summary {
@@ -58,6 +77,7 @@ struct Summary {
   std::size_t yielding = 0;
   std::vector<SpringState> springs;
   std::vector<AnchorState> anchors;
+  Residual residual;
   std::vector<SupportState> supports;  ///< from the top down, but for the foot held in every run
 };
 

@@ -14,7 +14,7 @@ struct Label {
   std::string_view english;
 };
 
-constexpr std::array<Label, 51> columns{{
+constexpr std::array<Label, 59> columns{{
     {"combination", "Combinazione", "Combination"},
     {"quantity", "Grandezza", "Quantity"},
     {"value", "Valore", "Value"},
@@ -43,6 +43,15 @@ constexpr std::array<Label, 51> columns{{
     {"anchor", "Ancoraggio", "Anchor"},
     {"name", "Nome", "Name"},
     {"force_kN", "Forza [kN]", "Force [kN]"},
+    {"horizontal_kN", "Orizzontale, verso terra [kN]", "Horizontal, towards ground [kN]"},
+    {"vertical_kN", "Verticale, verso il basso [kN]", "Vertical, downwards [kN]"},
+    {"prestress_kN", "Pretensione [kN]", "Prestress [kN]"},
+    {"stiffness_kN_m", "Rigidezza su un palo o pannello [kN/m]",
+     "Stiffness on one pile or panel [kN/m]"},
+    {"share", "Quota di uno [-]", "Share of one [-]"},
+    {"head_displacement_mm", "Spostamento della testa verso lo scavo [mm]",
+     "Displacement of head towards excavation [mm]"},
+    {"head_settlement_mm", "Abbassamento della testa [mm]", "Settlement of head [mm]"},
     {"tendon_force_kN", "Trefoli: Fd [kN]", "Tendon: Fd [kN]"},
     {"tendon_resistance_kN", "Trefoli: Rd [kN]", "Tendon: Rd [kN]"},
     {"tendon_factor", "Trefoli: fattore", "Tendon: factor"},
@@ -53,6 +62,7 @@ constexpr std::array<Label, 51> columns{{
     {"towards_retained_kN", "Verso terra [kN]", "Towards retained side [kN]"},
     {"downwards_kN", "Verso il basso [kN]", "Downwards [kN]"},
     {"moment_about_head_kNm", "Momento alla testa [kNm]", "Moment about head [kNm]"},
+    {"relative_to_loads", "Rispetto ai carichi [-]", "Relative to the loads [-]"},
     {"displacement_mm", "Spostamento [mm]", "Displacement [mm]"},
     {"settlement_mm", "Abbassamento [mm]", "Settlement [mm]"},
     {"rotation_mrad", "Rotazione [mrad]", "Rotation [mrad]"},

@@ -43,10 +43,11 @@ Json rows_of(const ResultTable& table) {
 
 }  // namespace
 
-TablesHead head_of(const Project& project, const Outcome& outcome, const Texts& texts) {
+TablesHead head_of(const Project& project, const Job& job, const Outcome& outcome,
+                   const Texts& texts) {
   return {.project = project.name,
           .through = outcome.verdict != veldError,
-          .messages = messages_of(project, outcome, texts)};
+          .messages = messages_of(project, job, outcome, texts)};
 }
 
 std::string tables_json(const TablesHead& head, const std::vector<ResultTable>& tables) {

@@ -17,7 +17,8 @@ struct TablesHead {
   std::vector<std::string> messages = {};
 };
 
-TablesHead head_of(const Project& project, const Outcome& outcome, const Texts& texts);
+TablesHead head_of(const Project& project, const Job& job, const Outcome& outcome,
+                   const Texts& texts);
 
 /// Every table as a list of objects, in engineering units; numbers that are not finite are null.
 std::string tables_json(const TablesHead& head, const std::vector<ResultTable>& tables);

@@ -7,6 +7,7 @@
 #include <ostrel/serviceability.h>
 #include <ostrel/ultimate_limit_states.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -43,6 +44,18 @@ struct Verification {
 std::vector<Verification> verifications_of(const xUltimateLimitStates& ultimate,
                                            const xServiceabilityLimitStates& serviceability,
                                            const Texts& texts);
+
+/// The result of an anchor, by its place in the project, in a combination, by its number, of the
+/// verification of the tendons or of their bond; null for one that was not verified.
+template <class Anchor>
+const xAnchorResults* anchor_result(const std::vector<Anchor>& anchors, std::size_t place,
+                                    int combination) {
+  if (place >= anchors.size()) return nullptr;
+  for (const xAnchorResults& result : anchors[place].combinations) {
+    if (result.getCombIndex() == combination) return &result;
+  }
+  return nullptr;
+}
 
 std::string_view name_of(Check check, const Texts& texts);
 

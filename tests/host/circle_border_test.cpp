@@ -80,10 +80,11 @@ TEST(CircleBorder, IsNotTheLowestRowJustAboveTheHead) {
 
 Json rising_ground() {
   Json project = sound_project();
-  project["ground"] = {{"layers",
-                        {{{"soil", "sand"},
-                          {"polygons_m",
-                           {{{-30, -30}, {60, -30}, {60, 3}, {10, 3}, {0, 0}, {0, -4}, {-30, -4}}}}}}}};
+  project["ground"] = {
+      {"layers",
+       {{{"soil", "sand"},
+         {"polygons_m",
+          {{{-30, -30}, {60, -30}, {60, 3}, {10, 3}, {0, 0}, {0, -4}, {-30, -4}}}}}}}};
   return project;
 }
 
@@ -150,9 +151,8 @@ TEST(CircleBorder, OfAListIsThatOfAllItsCentres) {
 }
 
 TEST(CircleBorder, IsOnAllSidesOfTheOnlyCircle) {
-  const Project project =
-      searching({{"centres",
-                  {{{"x_m", 0}, {"y_m", 5}, {"least_radius_m", 16}, {"largest_radius_m", 16}}}}});
+  const Project project = searching(
+      {{"centres", {{{"x_m", 0}, {"y_m", 5}, {"least_radius_m", 16}, {"largest_radius_m", 16}}}}});
   EXPECT_EQ(borders_of(project, 0, 5, 16).size(), 6u);
 }
 
@@ -216,14 +216,16 @@ TEST(BorderWarnings, StandOnceForAllCombinationsWithTheSameBorder) {
   const Project project = searching(radii(14, 20));
   const double none = std::numeric_limits<double>::quiet_NaN();
   xSlopeStabilityDesign design;
-  design.getResults() = {result_of("A", -2, 1.2), result_of("B", 0, 1.2),   result_of("C", 2, 1.2),
-                         result_of("D", -2, 0.9), result_of("E", -2, 1e10), result_of("F", -2, none)};
+  design.getResults() = {result_of("A", -2, 1.2),  result_of("B", 0, 1.2),
+                         result_of("C", 2, 1.2),   result_of("D", -2, 0.9),
+                         result_of("E", -2, 1e10), result_of("F", -2, none)};
   EXPECT_THAT(
       border_warnings(project, design, english),
-      ElementsAre("A, D: the governing slip circle lies on the border of its search, a worse one may "
-                  "lie outside; extend slope.centre_box.x_m beyond -2.00 (first column of centres)",
-                  "C: the governing slip circle lies on the border of its search, a worse one may "
-                  "lie outside; extend slope.centre_box.x_m beyond 2.00 (last column of centres)"));
+      ElementsAre(
+          "A, D: the governing slip circle lies on the border of its search, a worse one may "
+          "lie outside; extend slope.centre_box.x_m beyond -2.00 (first column of centres)",
+          "C: the governing slip circle lies on the border of its search, a worse one may "
+          "lie outside; extend slope.centre_box.x_m beyond 2.00 (last column of centres)"));
   EXPECT_THAT(border_warnings(project, design, Texts(Language::italian)),
               ElementsAre(HasSubstr("sul bordo"), HasSubstr("oltre 2.00 (ultima colonna")));
   EXPECT_THAT(border_warnings(project, {}, english), IsEmpty());
@@ -231,11 +233,10 @@ TEST(BorderWarnings, StandOnceForAllCombinationsWithTheSameBorder) {
 
 // A single centre is a border on every side.
 Json with_one_centre() {
-  Json project = with("/slope", {{"centre_box",
-                                  {{"x_m", {-1, -1}},
-                                   {"y_m", {3, 3}},
-                                   {"spacing_m", 2},
-                                   {"depths_below_foot_m", {0, 5}}}}});
+  Json project = with(
+      "/slope",
+      {{"centre_box",
+        {{"x_m", {-1, -1}}, {"y_m", {3, 3}}, {"spacing_m", 2}, {"depths_below_foot_m", {0, 5}}}}});
   project["combinations"][0]["checks"] = {"global_stability"};
   project["combinations"][0]["resistance_factors"] = {{"global_stability", 1.1}};
   return project;
@@ -267,7 +268,8 @@ TEST_F(BorderWarningsOfTheProgram, AreToldByEveryCommandThatAnalyses) {
   EXPECT_THAT(told({"show", path("saved")}).second, lines);
   EXPECT_THAT(told({"report", file, "-o", path("r.html")}).second, lines);
   EXPECT_THAT(told({"export", file, "--json", path("t.json")}).second, lines);
-  EXPECT_THAT(told({"batch", file, "--progress", "plain"}).second, HasSubstr("p.json: " + warning_));
+  EXPECT_THAT(told({"batch", file, "--progress", "plain"}).second,
+              HasSubstr("p.json: " + warning_));
   for (const char* name : {"t.json", "out/tables.json"}) {
     const Json tables = Json::parse(contents_of(folder_ / name));
     EXPECT_THAT(tables.at("messages").at(0).get<std::string>(), lines) << name;
@@ -285,7 +287,8 @@ TEST_F(BorderWarningsOfTheProgram, StandAmongTheMessagesOfTheReport) {
   ASSERT_EQ(messages.size(), 1u);
   EXPECT_EQ(messages[0]["severity"], "warning");
   EXPECT_THAT(messages[0]["text"]["en"].get<std::string>(), HasSubstr("extend slope.centre_box"));
-  EXPECT_THAT(messages[0]["text"]["it"].get<std::string>(), HasSubstr("estendere slope.centre_box"));
+  EXPECT_THAT(messages[0]["text"]["it"].get<std::string>(),
+              HasSubstr("estendere slope.centre_box"));
 }
 
 // The circles that the program chooses find the worst one within.

@@ -3,15 +3,18 @@
 #include "command_export.h"
 
 #include "command_line.h"
+#include "embedded_files.h"
 #include "host_testing.h"
 
 #include <gmock/gmock.h>
 
 #include <sstream>
+#include <utility>
 
 namespace ostrel::host {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using Json = nlohmann::json;
@@ -32,10 +35,11 @@ print(sum(part.startswith("xl/charts/chart") for part in book.namelist()))
 
 class CommandExport : public ::testing::Test {
 protected:
-  void run(std::vector<std::string> arguments) {
+  void run(std::vector<std::string> arguments) { call("export", std::move(arguments)); }
+  void call(const char* command, std::vector<std::string> arguments) {
     std::ostringstream out;
     std::ostringstream err;
-    arguments.insert(arguments.begin(), {"export", project_});
+    arguments.insert(arguments.begin(), {command, project_});
     status_ = run_program(arguments, out, err);
     out_ = out.str();
     err_ = err.str();
@@ -100,6 +104,72 @@ TEST_F(CommandExport, TellsWhereItCannotWrite) {
   EXPECT_EQ(status_, exit_bad_input);
   EXPECT_THAT(err_, HasSubstr("no such file"));
   EXPECT_THAT(out_, IsEmpty());
+}
+
+TEST_F(CommandExport, ServesRunAndReportAsWell) {
+  call("run", {"--xlsx", file("w.xlsx"), "--json", file("t.json"), "--lang", "en"});
+  EXPECT_EQ(status_, exit_fine) << err_;
+  EXPECT_THAT(out_, AllOf(HasSubstr("Largest moment"), HasSubstr("w.xlsx"), HasSubstr("t.json")));
+  EXPECT_THAT(read("w.xlsx"), HasSubstr("Summary"));
+  const std::string of_run = contents_of(folder_ / "t.json");
+  call("report", {"-o", file("r.html"), "--json", file("t2.json"), "--lang", "en"});
+  EXPECT_EQ(status_, exit_fine) << err_;
+  EXPECT_EQ(contents_of(folder_ / "t2.json"), of_run);
+  EXPECT_THAT(contents_of(folder_ / "r.html"), HasSubstr("<html"));
+}
+
+TEST_F(CommandExport, OfARunIsTriedBeforeTheAnalysis) {
+  for (const char* option : {"--xlsx", "--json", "--pdf"}) {
+    call("run", {option, file("missing/f"), "--lang", "en"});
+    EXPECT_EQ(status_, exit_bad_input);
+    EXPECT_THAT(err_, HasSubstr("no such file")) << option;
+    EXPECT_THAT(out_, IsEmpty()) << option;
+  }
+}
+
+// "./" leads to the same file, and so does a link.
+TEST_F(CommandExport, RefusesTwoOutputsToTheSameFile) {
+  const std::string same = (folder_.path() / "." / "t.json").string();
+  std::filesystem::create_symlink(folder_.write("old.json", "old"), folder_ / "link");
+  const std::vector<std::pair<const char*, std::vector<std::string>>> commands{
+      {"export", {"--xlsx", same, "--json", file("t.json")}},
+      {"export", {"--xlsx", file("link"), "--json", file("old.json")}},
+      {"run", {"--save", same, "--json", file("t.json")}},
+      {"run", {"--report", same, "--json", file("t.json")}},
+      {"run", {"-o", folder_.path().string(), "--json", file("tables.json")}},
+      {"report", {"-o", same, "--json", file("t.json")}}};
+  for (const auto& [command, arguments] : commands) {
+    std::vector<std::string> all = arguments;
+    all.insert(all.end(), {"--lang", "en"});
+    call(command, all);
+    EXPECT_EQ(status_, exit_bad_input);
+    EXPECT_THAT(err_, HasSubstr("would write the same file")) << command;
+    EXPECT_THAT(out_, IsEmpty());
+  }
+  EXPECT_THAT(folder_.names(), ::testing::ElementsAre("link", "old.json", "p.json"));
+  EXPECT_EQ(contents_of(folder_ / "old.json"), "old");
+}
+
+TEST_F(CommandExport, RefusesToWriteOverTheProjectAndTheStandards) {
+  const std::string project = contents_of(project_);
+  call("run", {"--json", project_, "--lang", "en"});
+  EXPECT_EQ(status_, exit_bad_input);
+  EXPECT_THAT(err_, HasSubstr("--json would write over a file that is read"));
+  call("report", {"-o", project_, "--lang", "en"});
+  EXPECT_EQ(status_, exit_bad_input);
+  call("run", {"--save", project_, "--lang", "en"});
+  EXPECT_EQ(status_, exit_bad_input);
+  EXPECT_EQ(contents_of(project_), project);
+  const std::string standards(embedded_file("standards.json"));
+  const std::string copy = folder_.write("s.json", standards).string();
+  run({"--presets", copy, "--json", copy, "--lang", "en"});
+  EXPECT_EQ(status_, exit_bad_input);
+  EXPECT_EQ(contents_of(copy), standards);
+}
+
+TEST_F(CommandExport, MayWriteTwiceToWhatIsNoFile) {
+  run({"--xlsx", "/dev/null", "--json", "/dev/null", "--lang", "en"});
+  EXPECT_EQ(status_, exit_fine) << err_;
 }
 
 TEST_F(CommandExport, SaysNothingWhenQuiet) {

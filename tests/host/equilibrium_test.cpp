@@ -5,12 +5,14 @@
 
 #include "host_testing.h"
 #include "project_conversion.h"
+#include "run_data.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+#include <limits>
 
 namespace ostrel::host {
 namespace {
@@ -18,9 +20,7 @@ namespace {
 using Json = nlohmann::json;
 
 // The residual against the size of what is summed: the equations are solved to about 1e-7.
-void expect_balance(const Project& project) {
-  const Job job = to_job(project);
-  const Outcome outcome = analyse(job);
+void expect_balance(const Project& project, const Job& job, const Outcome& outcome) {
   ASSERT_EQ(outcome.results.combResults.size(), project.combinations.size());
   for (const xCombResults& combination : outcome.results.combResults) {
     SCOPED_TRACE(combination.getCombName());
@@ -33,14 +33,23 @@ void expect_balance(const Project& project) {
   }
 }
 
+void expect_balance(const Project& project) {
+  const Job job = to_job(project);
+  expect_balance(project, job, analyse(job));
+}
+
 class ExampleBalance : public ::testing::TestWithParam<std::string> {};
 
-TEST_P(ExampleBalance, Holds) {
+TEST_P(ExampleBalance, HoldsAndNoResultIsQuestionable) {
   Problems problems{Texts(Language::english)};
   const auto project = read_project(contents_of(GetParam()), problems);
   ASSERT_TRUE(project.has_value());
   EXPECT_TRUE(problems.remarks().empty());
-  expect_balance(*project);
+  const Job job = to_job(*project);
+  const Outcome outcome = analyse(job);
+  expect_balance(*project, job, outcome);
+  EXPECT_THAT(result_warnings(*project, job, outcome, Texts(Language::english)),
+              ::testing::IsEmpty());
 }
 
 std::vector<std::string> examples() {
@@ -113,6 +122,50 @@ TEST(Balance, SumsEachKindOfForceByItself) {
   // 50 N/mm * 2 mm against the displacement
   EXPECT_EQ(balance.elastic_supports.across, -100.0);
   EXPECT_EQ(balance.residual().across, -30.0);
+  EXPECT_EQ(balance.load_sizes.across, 100.0);
+  EXPECT_EQ(balance.load_sizes.moment, 100'003.0);
+}
+
+ForceSum forces(double across, double along, double moment) {
+  return {.across = across, .along = along, .moment = moment};
+}
+
+// Loads of 30 N across and 40 N along, 50 N together. A residual of 3 N and 4 N is 5 N, a tenth; one
+// of 600 Nmm of 2000 Nmm is more.
+TEST(RelativeResidual, IsThatOfForcesOrOfMomentsWhicheverIsMore) {
+  Balance balance{.loads = forces(3, 4, 100), .load_sizes = forces(30, 40, 2000)};
+  EXPECT_DOUBLE_EQ(balance.relative_residual(), 0.1);
+  balance.loads.moment = -600.0;
+  EXPECT_DOUBLE_EQ(balance.relative_residual(), 0.3);
+}
+
+TEST(RelativeResidual, TakesLoadsThatCancelEachOtherByTheirSizes) {
+  xCombResults combination;
+  combination.femResults.appliedForces.resize(2);
+  combination.femResults.appliedForces[0].data = xFemNodeData(0.0, 500.0, 0.0);
+  combination.femResults.appliedForces[1].data = xFemNodeData(0.0, -499.0, 0.0);
+  // 1 N of 999 N is left over.
+  EXPECT_DOUBLE_EQ(balance_of(Job{}, Outcome{}, combination).relative_residual(), 1.0 / 999.0);
+}
+
+TEST(RelativeResidual, IsNothingWithoutForcesAndInfiniteWithoutLoads) {
+  EXPECT_EQ(Balance{}.relative_residual(), 0.0);
+  EXPECT_EQ(Balance{.soil = forces(1, 0, 0)}.relative_residual(),
+            std::numeric_limits<double>::infinity());
+}
+
+TEST(BalanceSentence, StandsWhereTheResidualIsNotSmall) {
+  const Texts english{Language::english};
+  EXPECT_EQ(balance_sentence(0.001, english), "");
+  EXPECT_THAT(balance_sentence(0.0123, english), ::testing::HasSubstr("1.2 % of the loads"));
+  const double none = std::numeric_limits<double>::quiet_NaN();
+  for (const ForceSum& part : {forces(none, 0, 0), forces(0, none, 0), forces(0, 0, none)}) {
+    const Balance balance{.loads = forces(1, 1, 1), .soil = part, .load_sizes = forces(1, 1, 1)};
+    EXPECT_THAT(balance_sentence(balance.relative_residual(), english),
+                ::testing::HasSubstr("cannot be told"));
+  }
+  EXPECT_THAT(balance_sentence(std::numeric_limits<double>::infinity(), english),
+              ::testing::HasSubstr("cannot be told"));
 }
 
 }  // namespace

@@ -113,6 +113,44 @@ TEST_F(ResultTables, LeaveNothingOverOfTheForcesOnTheWall) {
   EXPECT_NEAR(sum, 0.0, 1e-6 * largest);
 }
 
+TEST_F(ResultTables, TellTheResidualByTheLoadsInItsRowAlone) {
+  run(sound_project());
+  const ResultTable& equilibrium = table("equilibrium");
+  const std::size_t column = place_of(equilibrium, "relative_to_loads");
+  for (std::size_t i = 0; i < 5; ++i)
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(equilibrium.rows.at(i).at(column)));
+  EXPECT_LE(number(equilibrium, 5, "relative_to_loads"), 1e-6);
+}
+
+// 4 piles of 1 m and 2 anchors of 500 mm² at 30 degrees, 9 m of them free: each carries the force of
+// two piles; on one pile 2 · 500 mm² · 195 GPa / 9 m / 4 = 5416.7 kN/m.
+TEST_F(ResultTables, TellTheForcesOfAnAnchorAndWhatTheyPutOnTheWall) {
+  Json project = with("/anchors", {{{"name", "A"},
+                                    {"level_m", -1},
+                                    {"inclination_deg", 30},
+                                    {"free_length_m", 9},
+                                    {"number", 2},
+                                    {"tendon_area_mm2", 500},
+                                    {"E_GPa", 195},
+                                    {"prestress_kN", 100}}});
+  run(project);
+  const ResultTable& anchors = table("anchors");
+  ASSERT_EQ(anchors.rows.size(), 1u);
+  EXPECT_EQ(text(anchors, 0, "name"), "A");
+  EXPECT_EQ(number(anchors, 0, "anchor"), 1.0);
+  EXPECT_DOUBLE_EQ(number(anchors, 0, "prestress_kN"), 100.0);
+  EXPECT_DOUBLE_EQ(number(anchors, 0, "share"), 2.0);
+  EXPECT_NEAR(number(anchors, 0, "stiffness_kN_m"), 2 * 500.0 * 195.0 / 9.0 / 4.0, 1e-6);
+  const double force = number(anchors, 0, "force_kN");
+  EXPECT_GT(force, 100.0);
+  EXPECT_NEAR(number(anchors, 0, "horizontal_kN"), force * std::sqrt(0.75), 1e-9 * force);
+  EXPECT_NEAR(number(anchors, 0, "vertical_kN"), force * 0.5, 1e-9 * force);
+  // The force beyond the prestress is what the head draws out of the anchor.
+  const double drawn_mm = number(anchors, 0, "head_displacement_mm") * std::sqrt(0.75)
+                        - number(anchors, 0, "head_settlement_mm") * 0.5;
+  EXPECT_NEAR(force - 100.0, 5416.666667 * drawn_mm / 1e3 * 2.0, 1e-6 * force);
+}
+
 TEST_F(ResultTables, TellEveryVerificationMadeOrNot) {
   run(sound_project());
   const ResultTable& verifications = table("verifications");

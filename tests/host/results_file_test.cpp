@@ -38,7 +38,9 @@ RunData small_run() {
   summary.springs.resize(3);
   summary.springs[1].yields = true;
   summary.yielding = 1;
-  summary.anchors = {{.depth_m = 1.5, .force_kN = 250.0}, {.depth_m = 3.0, .force_kN = 300.0}};
+  summary.anchors = {{.depth_m = 1.5, .force_kN = 250.0},
+                     {.place = 1, .depth_m = 3.0, .force_kN = 300.0, .head_settlement_mm = 2.5}};
+  summary.residual = {.towards_retained_kN = 1e-9, .relative_to_loads = 0.5};
   summary.supports.resize(1);
   summary.supports[0].moment_kNm = 12.0;
   data.combinations = {{.name = "A", .kind = combSeismic, .summary = summary},
@@ -103,6 +105,11 @@ TEST(ResultsFile, GivesBackWhatTheTablesNeed) {
   EXPECT_THAT(summary->springs, SizeIs(3));
   EXPECT_TRUE(summary->springs[1].yields);
   EXPECT_EQ(summary->supports[0].moment_kNm, 12.0);
+  ASSERT_THAT(summary->anchors, SizeIs(2));
+  EXPECT_EQ(summary->anchors[1].place, 1u);
+  EXPECT_EQ(summary->anchors[1].head_settlement_mm, 2.5);
+  EXPECT_EQ(summary->residual.towards_retained_kN, 1e-9);
+  EXPECT_EQ(summary->residual.relative_to_loads, 0.5);
   EXPECT_FALSE(summary->supports[0].horizontal_kN);
   EXPECT_FALSE(reading.run->data.combinations[1].summary);
 }
@@ -140,10 +147,10 @@ TEST(ResultsFile, RefusesAForeignFile) {
 
 TEST(ResultsFile, TellsAnotherVersion) {
   std::string bytes = saved_bytes(small_run(), one_result());
-  bytes[version_at] = 2;
+  bytes[version_at] = 1;
   const Reading reading = reading_of(bytes);
   EXPECT_FALSE(reading.run);
-  EXPECT_THAT(reading.told, HasSubstr("found results of version 2; allowed results of version 1"));
+  EXPECT_THAT(reading.told, HasSubstr("found results of version 1; allowed results of version 2"));
 }
 
 TEST(ResultsFile, RefusesACutFileWhereverItEnds) {

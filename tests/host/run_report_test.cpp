@@ -12,6 +12,7 @@
 namespace ostrel::host {
 namespace {
 
+using ::testing::ContainsRegex;
 using ::testing::HasSubstr;
 using ::testing::Not;
 using Json = nlohmann::json;
@@ -61,6 +62,22 @@ TEST(RunReport, SaysWhichCombinationHasNoResult) {
   project["combinations"].push_back(
       {{"name", "too much"}, {"type", "ultimate"}, {"actions", {{"earth_pressure", 80}}}});
   EXPECT_THAT(report_of(project), HasSubstr("\nNo result: see the messages.\n"));
+}
+
+TEST(RunReport, TellsWhatIsLeftOverOfTheForcesAndWhereThatIsMuch) {
+  const Project project = project_of(sound_project());
+  const Job job = to_job(project);
+  const Texts english(Language::english);
+  RunData data = run_data_of(project, job, analyse(job), english);
+  const std::string fine = run_report(data, english);
+  EXPECT_THAT(fine,
+              ContainsRegex("Residual across \\(towards the ground\\) +-?[0-9.]+e-[0-9]+  kN"));
+  EXPECT_THAT(fine, ContainsRegex("Residual relative to the loads +[0-9.]+e-"));
+  EXPECT_THAT(fine, Not(HasSubstr("in balance")));
+  data.combinations.at(0).summary->residual.relative_to_loads = 0.25;
+  const std::string much = run_report(data, english);
+  EXPECT_THAT(much,
+              HasSubstr("\n! the forces are not in balance: the residual is 25 % of the loads"));
 }
 
 TEST(RunReport, EndsWithAllVerifications) {

@@ -34,7 +34,7 @@ Json tables_of(const Json& json) {
   const Project project = project_of(json);
   const Job job = to_job(project);
   const Outcome outcome = analyse(job);
-  return Json::parse(tables_json(head_of(project, outcome, Texts(Language::english)),
+  return Json::parse(tables_json(head_of(project, job, outcome, Texts(Language::english)),
                                  result_tables(project, job, outcome, Texts(Language::english))));
 }
 
