@@ -136,10 +136,7 @@ private:
   void add_export() {
     export_options_.texts = texts_;
     export_ = app_.add_subcommand("export", described(texts_, phrase::export_line));
-    export_
-        ->add_option("PROJECT.json", export_options_.project_file,
-                     described(texts_, Text::file_of_project))
-        ->required();
+    add_project(*export_, export_options_.project_file);
     add_exports(*export_, export_options_.files);
     add_presets(*export_, export_options_.presets_file);
   }
@@ -169,9 +166,7 @@ private:
   void add_run() {
     run_options_.texts = texts_;
     run_ = app_.add_subcommand("run", described(texts_, Text::run_line));
-    run_->add_option("PROJECT.json", run_options_.project_file,
-                     described(texts_, Text::file_of_project))
-        ->required();
+    add_project(*run_, run_options_.project_file);
     run_->add_option("-o,--output", run_options_.folder,
                      described(texts_, Text::folder_for_results))
         ->type_name("DIR");
@@ -194,6 +189,10 @@ private:
     add("--pdf", files.print_file, phrase::file_for_print);
   }
 
+  void add_project(CLI::App& command, std::string& file) {
+    command.add_option("PROJECT.json", file, described(texts_, Text::file_of_project))->required();
+  }
+
   void add_presets(CLI::App& command, std::string& file) {
     command.add_option("--presets", file, described(texts_, Text::presets_line))->type_name("FILE");
   }
@@ -201,10 +200,7 @@ private:
   void add_check(CLI::App*& command, const char* name, Text description) {
     check_options_.texts = texts_;
     command = app_.add_subcommand(name, described(texts_, description));
-    command
-        ->add_option("PROJECT.json", check_options_.source.project_file,
-                     described(texts_, Text::file_of_project))
-        ->required();
+    add_project(*command, check_options_.source.project_file);
     add_presets(*command, check_options_.source.presets_file);
   }
 
@@ -222,10 +218,7 @@ private:
   void add_report() {
     report_options_.texts = texts_;
     report_ = app_.add_subcommand("report", described(texts_, Text::report_line));
-    report_
-        ->add_option("PROJECT.json", report_options_.project_file,
-                     described(texts_, Text::file_of_project))
-        ->required();
+    add_project(*report_, report_options_.project_file);
     report_
         ->add_option("-o,--output", report_options_.report_file,
                      described(texts_, Text::file_for_report))

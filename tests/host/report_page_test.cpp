@@ -152,6 +152,51 @@ TEST_F(ReportPage, HasACellForEachColumn) {
   EXPECT_EQ(table("support-forces-01")["rows"].size(), 1U);
 }
 
+// At 30 degrees half of the force goes downwards. Without a verification there is no resistance.
+TEST_F(ReportPage, TellsWhatAnAnchorPutsOnTheWall) {
+  Json project = sound_project();
+  project["anchors"] = {{{"name", "A"},
+                         {"level_m", -1},
+                         {"inclination_deg", 30},
+                         {"free_length_m", 8},
+                         {"number", 2},
+                         {"tendon_area_mm2", 500},
+                         {"E_GPa", 195},
+                         {"prestress_kN", 100}}};
+  run(project);
+  const OrderedJson anchor = table("anchor-forces-01")["rows"][0];
+  EXPECT_EQ(anchor[0], "A");
+  const double force = anchor[2].get<double>();
+  EXPECT_GT(force, 100.0);
+  EXPECT_NEAR(anchor[3].get<double>(), force * std::sqrt(0.75), 1e-9 * force);
+  EXPECT_NEAR(anchor[4].get<double>(), force / 2.0, 1e-9 * force);
+  EXPECT_EQ(anchor[5], 100.0);
+  for (std::size_t i = 8; i < 12; ++i)
+    EXPECT_TRUE(anchor[i].is_null()) << i;
+}
+
+// Loads twice as large as those that were analysed leave as much over as there was.
+TEST_F(ReportPage, TellsWhetherTheForcesAreInBalance) {
+  run(sound_project());
+  OrderedJson rows = table("balance")["rows"];
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows[0][0], "C");
+  EXPECT_EQ(rows[0][5]["verdict"], true);
+  EXPECT_THAT(blocks("messages"), IsEmpty());
+  for (xFemNodeData_pos& load : outcome_.results.combResults.at(0).femResults.appliedForces) {
+    const xFemNodeData once = load.data;
+    load.data += once;
+  }
+  data_ = report_data(project_, job_, outcome_, Language::english);
+  rows = table("balance")["rows"];
+  EXPECT_EQ(rows[0][5]["verdict"], false);
+  ASSERT_EQ(blocks("messages").size(), 1U);
+  const OrderedJson message = blocks("messages")[0]["items"][0];
+  EXPECT_EQ(message["severity"], "warning");
+  EXPECT_THAT(message["text"]["en"].get<std::string>(),
+              StartsWith("C: the forces are not in balance"));
+}
+
 // The head moves, so that no displacement of 10 m and each of a thousandth of a millimetre is too
 // much.
 TEST_F(ReportPage, TellsWhichVerificationIsSatisfied) {
