@@ -134,12 +134,15 @@ private:
 
   void write(const Project& project, const Job& job, const Outcome& outcome) {
     if (folder_.empty()) return;
-    const auto failure = write_results(folder_, project, job, outcome, options_.texts.language());
-    if (!failure) return;
+    const WrittenFolder written =
+        write_results(folder_, project, job, outcome, options_.texts.language());
+    result_.messages += with_name(
+        result_.file, strangers_warning(folder_, written.strangers, options_.texts));
+    if (!written.failure) return;
     result_.verdict = BatchVerdict::not_written;
-    result_.messages +=
-        options_.texts(Text::cannot_write, failure->file, reason_of(failure->error, options_.texts))
-        + "\n";
+    result_.messages += options_.texts(Text::cannot_write, written.failure->file,
+                                       reason_of(written.failure->error, options_.texts))
+                      + "\n";
   }
 
   const BatchOptions& options_;

@@ -99,10 +99,13 @@ private:
   bool write(const Project& project, const Job& job, const Outcome& outcome,
              const RunData& data) const {
     if (!options_.folder.empty()) {
-      if (const auto failure =
-              write_results(options_.folder, project, job, outcome, options_.texts.language()))
-        return cannot_write(failure->file, failure->error);
+      const WrittenFolder written =
+          write_results(options_.folder, project, job, outcome, options_.texts.language());
+      if (written.failure) return cannot_write(written.failure->file, written.failure->error);
       out_ << "\n" << options_.texts(Text::written_to, options_.folder) << "\n";
+      const std::string warning =
+          strangers_warning(options_.folder, written.strangers, options_.texts);
+      if (!warning.empty()) err_ << fitted(warning, columns_of(warning)) << "\n";
     }
     if (!options_.results_file.empty()) {
       if (const auto error = write_whole(options_.results_file, saved_bytes(data, outcome.results)))

@@ -23,6 +23,8 @@ int show_results(const ShowOptions& options, std::ostream& out, std::ostream& er
       bytes ? read_saved(std::move(*bytes), problems) : std::nullopt;
   err << problems.report(options.results_file, "");
   if (!run) return exit_bad_input;
+  for (const std::string& remark : run->data.remarks)
+    err << fitted(remark, columns_of(remark)) << "\n";
   return print_run(run->data, options.fail_below, options.texts, out, err);
 }
 

@@ -285,6 +285,13 @@ struct CalculationInput {
   std::int32_t max_iterations = 100;
 };
 
+/// What looks odd in the file, though it may be meant, in both languages.
+struct OddPlace {
+  std::string path;  ///< as "water.retained_level_m"
+  std::string italian;
+  std::string english;
+};
+
 struct Project {
   std::string name;
   std::string description;
@@ -298,6 +305,7 @@ struct Project {
   std::optional<SeismicSiteInput> seismic;
   std::string standard;            ///< of which combinations were added; empty for none
   std::vector<std::string> notes;  ///< what a user of that standard shall know
+  std::vector<OddPlace> odd_places;  ///< what a check of the file warns of
   std::vector<CombinationInput> combinations;
   std::vector<SpringIntervalInput> spring_intervals;
   std::vector<SupportInput> fixed_supports;

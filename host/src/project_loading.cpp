@@ -8,6 +8,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <ostream>
 #include <utility>
 
@@ -39,6 +40,22 @@ OrderedJson in_reading_order(const nlohmann::json& combination) {
   return ordered;
 }
 
+// The remarks that a reading made, and beside each what it is in the other language: the project is
+// read once more for that.
+std::vector<OddPlace> odd_places(const std::string& text, const Problems& told,
+                                 const ProjectReading& reading) {
+  if (told.remarks().empty()) return {};
+  const bool in_italian = told.texts().language() == Language::italian;
+  Problems other(Texts(in_italian ? Language::english : Language::italian));
+  read_project(text, other, reading);
+  const std::vector<Remark>& italian = (in_italian ? told : other).remarks();
+  const std::vector<Remark>& english = (in_italian ? other : told).remarks();
+  std::vector<OddPlace> places;
+  for (std::size_t i = 0; i < std::min(italian.size(), english.size()); ++i)
+    places.push_back({english[i].path, italian[i].message, english[i].message});
+  return places;
+}
+
 }  // namespace
 
 LoadedProject load_project(const ProjectSource& source, const Texts& texts, std::ostream& err) {
@@ -51,6 +68,9 @@ LoadedProject load_project(const ProjectSource& source, const Texts& texts, std:
   Problems problems(texts);
   const std::optional<std::string> text = read_file(source.project_file, problems);
   if (text) loaded.project = read_project(*text, problems, {.presets = &*presets});
+  if (loaded.project) {
+    loaded.project->odd_places = odd_places(*text, problems, {.presets = &*presets});
+  }
   err << problems.report(source.project_file, text ? *text : "");
   loaded.errors = problems.errors().size();
   loaded.warnings = problems.remarks().size();

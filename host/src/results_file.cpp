@@ -17,7 +17,7 @@ namespace {
 
 // A conversion of line ends, as of texts, changes it.
 constexpr std::string_view magic = "ostrel results\r\n";
-constexpr int newest_version = 2;
+constexpr int newest_version = 3;
 
 // FNV-1a of 64 bits.
 std::int64_t checksum_of(std::string_view bytes) {
@@ -161,6 +161,7 @@ void pass(Way& way, SavedRun& run) {
   way.list(data.combinations, [&](CombinationData& combination) { pass(way, combination); });
   way.value(data.through);
   way.list(data.notes, text);
+  way.list(data.remarks, text);
   way.list(data.messages, text);
   way.object(run.results);
   way.object(data.ultimate);

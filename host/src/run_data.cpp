@@ -46,10 +46,21 @@ RunData run_data_of(const Project& project, const Job& job, const Outcome& outco
   }
   data.notes = project.notes;
   data.through = outcome.verdict != veldError;
+  data.remarks = remarks_on(project, texts);
   data.messages = messages_of(project, job, outcome, texts);
   data.ultimate = outcome.ultimate;
   data.serviceability = outcome.serviceability;
   return data;
+}
+
+std::vector<std::string> remarks_on(const Project& project, const Texts& texts) {
+  std::vector<std::string> remarks;
+  for (const OddPlace& place : project.odd_places) {
+    const bool in_italian = texts.language() == Language::italian;
+    remarks.push_back(phrase::warning.in(
+        texts, place.path + ": " + (in_italian ? place.italian : place.english)));
+  }
+  return remarks;
 }
 
 std::vector<std::string> result_warnings(const Project& project, const Job& job,

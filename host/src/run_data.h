@@ -32,6 +32,7 @@ struct RunData {
   std::vector<CombinationData> combinations;
   bool through = true;             ///< all combinations solved and all verifications made
   std::vector<std::string> notes;  ///< on the standard of the project, in the language of the run
+  std::vector<std::string> remarks;   ///< on the project, in the language of the run
   std::vector<std::string> messages;  ///< of and on the analysis, in the language of the run
   xUltimateLimitStates ultimate;
   xServiceabilityLimitStates serviceability;
@@ -39,6 +40,9 @@ struct RunData {
 
 RunData run_data_of(const Project& project, const Job& job, const Outcome& outcome,
                     const Texts& texts);
+
+/// A warning for each place of a project that looks odd.
+std::vector<std::string> remarks_on(const Project& project, const Texts& texts);
 
 /// Warnings about results: forces out of balance, slip circles on the border of their search.
 std::vector<std::string> result_warnings(const Project& project, const Job& job,

@@ -45,9 +45,12 @@ Json rows_of(const ResultTable& table) {
 
 TablesHead head_of(const Project& project, const Job& job, const Outcome& outcome,
                    const Texts& texts) {
-  return {.project = project.name,
-          .through = outcome.verdict != veldError,
-          .messages = messages_of(project, job, outcome, texts)};
+  TablesHead head{.project = project.name,
+                  .through = outcome.verdict != veldError,
+                  .messages = remarks_on(project, texts)};
+  for (std::string& message : messages_of(project, job, outcome, texts))
+    head.messages.push_back(std::move(message));
+  return head;
 }
 
 std::string tables_json(const TablesHead& head, const std::vector<ResultTable>& tables) {

@@ -14,7 +14,7 @@ namespace ostrel::host {
 struct TablesHead {
   std::string project;  ///< name
   bool through = true;  ///< all combinations solved and all verifications made
-  std::vector<std::string> messages = {};
+  std::vector<std::string> messages = {};  ///< on the project, of the analysis and on its results
 };
 
 TablesHead head_of(const Project& project, const Job& job, const Outcome& outcome,

@@ -47,6 +47,7 @@ RunData small_run() {
                        {.name = "B", .kind = combUltimate, .summary = {}}};
   data.through = false;
   data.notes = {"a note"};
+  data.remarks = {"a remark"};
   data.messages = {"a message"};
   data.ultimate.structuralDesign = verified_wall();
   data.serviceability = verified_displacements();
@@ -98,6 +99,7 @@ TEST(ResultsFile, GivesBackWhatTheTablesNeed) {
   ASSERT_TRUE(reading.run) << reading.told;
   EXPECT_EQ(run_report(reading.run->data, english), run_report(data, english));
   EXPECT_EQ(reading.run->data.notes, data.notes);
+  EXPECT_EQ(reading.run->data.remarks, data.remarks);
   EXPECT_EQ(reading.run->data.messages, data.messages);
   EXPECT_FALSE(reading.run->data.through);
   const std::optional<Summary>& summary = reading.run->data.combinations[0].summary;
@@ -150,7 +152,7 @@ TEST(ResultsFile, TellsAnotherVersion) {
   bytes[version_at] = 1;
   const Reading reading = reading_of(bytes);
   EXPECT_FALSE(reading.run);
-  EXPECT_THAT(reading.told, HasSubstr("found results of version 1; allowed results of version 2"));
+  EXPECT_THAT(reading.told, HasSubstr("found results of version 1; allowed results of version 3"));
 }
 
 TEST(ResultsFile, RefusesACutFileWhereverItEnds) {
