@@ -32,6 +32,13 @@ if(OSTREL_SANITIZE)
   target_compile_options(ostrel_test_options INTERFACE -O0 -fno-sanitize=undefined)
 endif()
 
+# Counters in what is linked with `ostrel_counters`. Nothing is optimised there: each line is one.
+add_library(ostrel_counters INTERFACE)
+if(OSTREL_COUNT_LINES)
+  target_compile_options(ostrel_counters INTERFACE -O0 --coverage -fprofile-update=atomic)
+  target_link_options(ostrel_options INTERFACE --coverage)
+endif()
+
 # Everything tells the fuzzing programs which way it took; other programs take no notice.
 if(OSTREL_BUILD_FUZZERS)
   if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")

@@ -7,7 +7,7 @@ function(ostrel_platform_library name)
   add_library(${name} STATIC ${sources})
   target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}/include"
                                      PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/src")
-  target_link_libraries(${name} PRIVATE ostrel_options PUBLIC ${ARGN})
+  target_link_libraries(${name} PRIVATE ostrel_options ostrel_counters PUBLIC ${ARGN})
 endfunction()
 
 # ostrel_room(NAME)
