@@ -30,11 +30,6 @@ std::array<double, count> sum(std::array<double, count> a, const std::array<doub
 
 }  // namespace
 
-void OutlineProfile::reserve(std::size_t vertices) {
-  depths_.reserve(vertices);
-  slabs_.reserve(vertices);
-}
-
 void OutlineProfile::build(std::span<const Point> outline, double orientation,
                            Direction direction) {
   collect_levels(outline, direction);

@@ -31,9 +31,6 @@ struct Direction {
 
 class OutlineProfile {
 public:
-  /// Sets memory aside for outlines of `vertices` vertices.
-  void reserve(std::size_t vertices);
-
   /// @param outline      a simple polygon of at least three vertices
   /// @param orientation  1 when it is counter-clockwise, -1 when it is clockwise
   void build(std::span<const Point> outline, double orientation, Direction direction);
