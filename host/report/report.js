@@ -147,7 +147,7 @@ const builders = {
   heading: (block) => element("h3", {id: block.id}, inLanguage(block.text)),
   messages: (block) => element("ul", {class: "messages"},
     ...block.items.map((item) => element("li", {class: item.severity},
-      element("strong", {}, inLanguage(item.label)), ` ${item.text}`))),
+      element("strong", {}, inLanguage(item.label)), ` ${inLanguage(item.text)}`))),
 };
 
 function chapter(part, number) {

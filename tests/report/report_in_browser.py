@@ -41,8 +41,19 @@ class ReportInBrowser(unittest.TestCase):
         projects = sorted(EXAMPLES.glob("*.json"))
         cls.pages = [write_report(project, folder) for project in projects]
         cls.hostile = write_report(cls.hostile_project(projects[0], folder), folder)
+        cls.questionable = write_report(cls.questionable_project(folder), folder)
         cls.browser = browser.Browser(browser.program()).__enter__()
         cls.addClassCleanup(cls.browser.__exit__)
+
+    @staticmethod
+    def questionable_project(folder: Path) -> Path:
+        """An example whose only slip circles stand around one centre."""
+        project = json.loads((EXAMPLES / "cantilever.json").read_text(encoding="utf-8"))
+        project["slope"]["centre_box"] = {"x_m": [-1, -1], "y_m": [3, 3], "spacing_m": 2,
+                                          "depths_below_foot_m": [0, 4]}
+        file = folder / "questionable.json"
+        file.write_text(json.dumps(project), encoding="utf-8")
+        return file
 
     @staticmethod
     def hostile_project(example: Path, folder: Path) -> Path:
@@ -111,6 +122,14 @@ class ReportInBrowser(unittest.TestCase):
                     "[...document.querySelectorAll('.ytitle')].map((t) => t.textContent)")
                 self.assertIn("Profondità [m]", titles)
                 self.assertNotIn("Depth [m]", titles)
+
+    def test_a_warning_about_the_results_is_read_in_either_language(self):
+        self.open(self.questionable)
+        self.assertIn("lies on the border of its search",
+                      self.browser.evaluate("document.querySelector('.messages').innerText"))
+        self.browser.evaluate("document.getElementById('language').click()")
+        self.assertIn("sta sul bordo della ricerca",
+                      self.browser.evaluate("document.querySelector('.messages').innerText"))
 
     def test_the_theme_follows_the_system_until_it_is_chosen(self):
         colour = "getComputedStyle(document.body).backgroundColor"
