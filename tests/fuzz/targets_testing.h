@@ -5,6 +5,7 @@
 // Each target takes any bytes. It ends normally where the bytes are refused and where they are taken;
 // anything else (a crash, an exception of another kind, a broken promise) stops the program.
 
+#include <cstddef>
 #include <string_view>
 
 namespace ostrel::fuzz {
@@ -25,6 +26,10 @@ void try_results(std::string_view bytes);
 
 /// A whole run. The first byte picks a sound case, and each four bytes that follow change one of its
 /// numbers: two bytes pick the number, one the way, one a value. Ends in results that can be told.
-void try_run(std::string_view bytes);
+/// @return whether there was a run: neither refused nor left out as one that honestly takes long
+bool try_run(std::string_view bytes);
+
+/// How many sound cases there are.
+std::size_t sound_runs();
 
 }  // namespace ostrel::fuzz

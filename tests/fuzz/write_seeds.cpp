@@ -68,9 +68,17 @@ void write_results(const fs::path& folder) {
   write(folder / "empty", '\0' + nothing.substr(28, nothing.size() - 36));
 }
 
+char texts_in(const fs::path& folder) {
+  const auto is_text = [](const auto& entry) { return entry.path().extension() == ".json"; };
+  return static_cast<char>(
+      std::count_if(fs::directory_iterator(folder), fs::directory_iterator(), is_text));
+}
+
 // Each sound case as it is, and with a few numbers changed in each of the ways.
 void write_runs(const fs::path& folder) {
-  for (char base = 0; base < 34; ++base) {
+  const char bases = static_cast<char>(texts_in(OSTREL_EXAMPLES)
+                                       + texts_in(fs::path(OSTREL_GOLDEN_DATA) / "cases"));
+  for (char base = 0; base < bases; ++base) {
     const std::string name = std::to_string(base);
     write(folder / name, std::string(1, base));
     for (char way = 0; way < 6; ++way) {
