@@ -14,6 +14,10 @@ from pathlib import Path
 NAMES = ("chromium-headless-shell", "chromium", "chromium-browser", "google-chrome")
 PATIENCE_S = 120.0
 
+# Pages that are not in front are drawn as fast as the one that is.
+AWAKE = ("--disable-background-timer-throttling", "--disable-backgrounding-occluded-windows",
+         "--disable-renderer-backgrounding")
+
 
 def program() -> str | None:
     """The browser of this machine, or None."""
@@ -21,7 +25,7 @@ def program() -> str | None:
 
 
 class Browser:
-    """One page of a browser; what goes wrong in the page is kept in `complaints`."""
+    """A browser with any number of pages."""
 
     def __init__(self, path: str):
         self._folder = tempfile.TemporaryDirectory(prefix="ostrel-browser-", ignore_cleanup_errors=True)
@@ -32,13 +36,7 @@ class Browser:
         os.close(from_browser)
         self._buffer = b""
         self._count = 0
-        self._session = None
-        self.complaints: list[str] = []
-        self.fetched: list[str] = []
-        target = self.send("Target.createTarget", url="about:blank")["targetId"]
-        self._session = self.send("Target.attachToTarget", targetId=target, flatten=True)["sessionId"]
-        for domain in ("Page", "Runtime", "Log", "Network"):
-            self.send(f"{domain}.enable")
+        self._pages: dict[str, Page] = {}
 
     def _start(self, path: str, read: int, write: int) -> subprocess.Popen:
         # The browser reads from descriptor 3 and writes to 4.
@@ -46,7 +44,7 @@ class Browser:
         shell = 'exec "$@" 3<&203 4>&204 203<&- 204>&-'
         command = [path, "--headless", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage",
                    "--remote-debugging-pipe", "--hide-scrollbars", "--force-color-profile=srgb",
-                   f"--user-data-dir={self._folder.name}"]
+                   *AWAKE, f"--user-data-dir={self._folder.name}"]
         try:
             return subprocess.Popen(["bash", "-c", shell, "bash", *command], pass_fds=high,
                                     stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
@@ -65,6 +63,13 @@ class Browser:
         self._process.wait(timeout=20)
         self._folder.cleanup()
 
+    def page(self) -> "Page":
+        """A new page, empty."""
+        target = self.send("Target.createTarget", url="about:blank")["targetId"]
+        session = self.send("Target.attachToTarget", targetId=target, flatten=True)["sessionId"]
+        self._pages[session] = Page(self, session, target)
+        return self._pages[session]
+
     def _message(self, until: float) -> dict:
         while b"\0" not in self._buffer:
             ready, _, _ = select.select([self._in], [], [], max(0.0, until - time.monotonic()))
@@ -75,8 +80,55 @@ class Browser:
         text, self._buffer = self._buffer.split(b"\0", 1)
         return json.loads(text)
 
-    def _note(self, message: dict):
-        method, data = message.get("method"), message.get("params", {})
+    def heed(self, until: float):
+        """Takes one message that answers nothing to the page that it comes from."""
+        self._pass_on(self._message(until))
+
+    def _pass_on(self, message: dict):
+        page = self._pages.get(message.get("sessionId", ""))
+        if page and "method" in message:
+            page.note(message["method"], message.get("params", {}))
+
+    def send(self, method: str, session: str | None = None, **params) -> dict:
+        self._count += 1
+        number = self._count
+        message = {"id": number, "method": method, "params": params}
+        if session:
+            message["sessionId"] = session
+        os.write(self._out, json.dumps(message).encode() + b"\0")
+        until = time.monotonic() + PATIENCE_S
+        while True:
+            answer = self._message(until)
+            if answer.get("id") != number:
+                self._pass_on(answer)
+            elif "error" in answer:
+                raise RuntimeError(f"{method}: {answer['error']['message']}")
+            else:
+                return answer["result"]
+
+
+class Page:
+    """One page of a browser; what goes wrong in it is kept in `complaints`."""
+
+    def __init__(self, browser: Browser, session: str, target: str):
+        self._browser = browser
+        self._session = session
+        self._target = target
+        self._address = ""
+        self._arrived = False  # the file is what the page shows now
+        self._loaded = False
+        self.complaints: list[str] = []
+        self.fetched: list[str] = []
+        for domain in ("Page", "Runtime", "Log", "Network"):
+            self.send(f"{domain}.enable")
+
+    def close(self):
+        self._browser.send("Target.closeTarget", targetId=self._target)
+
+    def send(self, method: str, **params) -> dict:
+        return self._browser.send(method, self._session, **params)
+
+    def note(self, method: str, data: dict):
         if method == "Runtime.exceptionThrown":
             self.complaints.append(json.dumps(data["exceptionDetails"]))
         elif method == "Runtime.consoleAPICalled" and data["type"] in ("error", "warning", "assert"):
@@ -85,25 +137,13 @@ class Browser:
             self.complaints.append(data["entry"]["text"])
         elif method == "Network.requestWillBeSent":
             self.fetched.append(data["request"]["url"])
-
-    def send(self, method: str, **params) -> dict:
-        self._count += 1
-        number = self._count
-        message = {"id": number, "method": method, "params": params}
-        if self._session:
-            message["sessionId"] = self._session
-        os.write(self._out, json.dumps(message).encode() + b"\0")
-        until = time.monotonic() + PATIENCE_S
-        while True:
-            answer = self._message(until)
-            if answer.get("id") != number:
-                self._note(answer)
-            elif "error" in answer:
-                raise RuntimeError(f"{method}: {answer['error']['message']}")
-            else:
-                return answer["result"]
+        elif method == "Page.frameNavigated":
+            self._arrived = data["frame"]["url"] == self._address
+        elif method == "Page.loadEventFired":
+            self._loaded = self._arrived
 
     def evaluate(self, expression: str):
+        """The value of an expression; of a promise, once it is kept."""
         result = self.send("Runtime.evaluate", expression=expression, returnByValue=True,
                            awaitPromise=True)
         if "exceptionDetails" in result:
@@ -111,12 +151,17 @@ class Browser:
         return result["result"].get("value")
 
     def wait_for(self, condition: str):
-        """Waits until an expression of the page is true."""
-        until = time.monotonic() + PATIENCE_S
-        while not self.evaluate(f"Boolean({condition})"):
-            if time.monotonic() > until:
-                raise TimeoutError(condition)
-            time.sleep(0.05)
+        """Waits until an expression is true, which is looked at whenever the page changes."""
+        seen = self.evaluate(
+            "new Promise((tell) => { let watch; let late;"
+            f"const look = () => {{ if (!({condition})) return; watch.disconnect();"
+            "clearTimeout(late); tell(true); };"
+            "watch = new MutationObserver(look);"
+            "watch.observe(document, {subtree: true, childList: true, attributes: true, characterData: true});"
+            f"late = setTimeout(() => {{ watch.disconnect(); tell(false); }}, {PATIENCE_S * 1000});"
+            "look(); })")
+        if not seen:
+            raise TimeoutError(condition)
 
     def view(self, width: int, height: int, dark: bool = False):
         """The size of the window in CSS pixels, and the theme that the system asks for."""
@@ -125,20 +170,33 @@ class Browser:
         self.send("Emulation.setEmulatedMedia",
                   features=[{"name": "prefers-color-scheme", "value": "dark" if dark else "light"}])
 
-    def open(self, page: Path):
-        """Opens a page and waits until its figures are drawn; what was noted before is forgotten."""
-        self.send("Page.navigate", url="about:blank")
+    def begin_to_open(self, file: Path):
+        """Opens a file without waiting for it; what was noted before is forgotten."""
         self.complaints.clear()
         self.fetched.clear()
-        self.send("Page.navigate", url=page.resolve().as_uri())
-        self.wait_for("document.documentElement?.dataset.ready === 'yes'")
+        self._address = file.resolve().as_uri()
+        self._arrived = self._loaded = False
+        self.send("Page.navigate", url=self._address)
+
+    def open(self, file: Path):
+        self.begin_to_open(file)
+        self.wait_until_drawn()
+
+    def wait_until_drawn(self, width: int | None = None):
+        """Waits until all figures are drawn for the size of the window, and for `width` if given."""
+        until = time.monotonic() + PATIENCE_S
+        while not self._loaded:
+            self._browser.heed(until)
+        drawn = "document.documentElement.dataset"
+        self.wait_for(f"{drawn}.ready === 'yes' && {drawn}.width === "
+                      + (f"'{width}'" if width else "String(window.innerWidth)"))
 
     def move(self, x: float, y: float):
         self.send("Input.dispatchMouseEvent", type="mouseMoved", x=x, y=y)
 
     def screenshot(self, file: Path, selector: str | None = None):
         """A picture of the window, or of all that an element takes, in view or not."""
-        params = {"format": "png"}
+        params = {"format": "png", "optimizeForSpeed": True}
         if selector:
             params["captureBeyondViewport"] = True
             params["clip"] = {"scale": 1, **self.evaluate(
