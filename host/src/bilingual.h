@@ -9,6 +9,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include <array>
+#include <cstddef>
+#include <optional>
 #include <string>
 
 namespace ostrel::host {
@@ -29,6 +32,23 @@ struct Both {
 inline Both same(const std::string& text) {
   return {text, text};
 }
+
+/// The texts of one behind those of the other.
+Both operator+(const Both& first, const Both& second);
+
+/// Numbers and signs without names: "1.50 m" with the point of English, "1,50 m" with the comma of
+/// Italian.
+Both decimals(const std::string& text);
+
+/// The text at a place of a table, "?" beyond its end.
+template <std::size_t count>
+const Both& entry(const std::array<Both, count>& texts, std::size_t place) {
+  static const Both unknown = same("?");
+  return place < count ? texts[place] : unknown;
+}
+
+/// A text that was made of `text` in one language, in both; none where it was not.
+std::optional<Both> retold(const std::string& told, Text text);
 
 /// As {"it": ..., "en": ...}.
 void to_json(OrderedJson& json, const Both& text);

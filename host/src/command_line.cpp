@@ -11,13 +11,13 @@
 #include "command_run.h"
 #include "command_show.h"
 #include "completion.h"
+#include "library_messages.h"
 #include "manual_page.h"
 #include "phrases.h"
 #include "schema_validation.h"
 #include "tables_json.h"
 #include "texts.h"
 
-#include <ostrel/language.h>
 #include <ostrel/version.h>
 
 #include <CLI/CLI.hpp>
@@ -90,7 +90,7 @@ public:
       return app_.exit(error, out_, err_) == 0 ? exit_fine : exit_bad_input;
     }
     const bool is_core = core_->parsed();
-    ostrel::set_language(code_of(is_core ? core_options_.texts.language() : texts_.language()));
+    choose_language(is_core ? core_options_.texts.language() : texts_.language());
     if (is_core) return run_core(core_options_, out_, err_);
     if (expand_->parsed()) return expand_project_file(check_options_, out_, err_);
     if (schema_->parsed())

@@ -3,14 +3,11 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <string_view>
-#include <vector>
 
 namespace ostrel::host {
 
 /// The contents of a file by its name, as "project.schema.json"; empty for a name that is none.
+/// "plotly.js" and "plotly.licence" are none in a build without figures.
 std::string_view embedded_file(std::string_view name);
-
-/// The names, in alphabetical order.
-std::vector<std::string_view> embedded_files();
 
 }  // namespace ostrel::host

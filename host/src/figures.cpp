@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <numbers>
 #include <utility>
 
 namespace ostrel::host {
@@ -55,7 +54,13 @@ const std::vector<Quantity>& quantities() {
        knm_of_nmm(1.0),
        {"Positivo se tende il lato dello scavo.",
         "Positive where it stretches the excavation side."}},
-      {"shear", shear_name, "kN", 1, &xFemResults::shear, kn_of_n(1.0), {"", ""}},
+      {"shear",
+       shear_name,
+       "kN",
+       1,
+       &xFemResults::shear,
+       kn_of_n(1.0),
+       {"V = dM/dz, z verso il basso.", "V = dM/dz, z downwards."}},
       {"axial",
        axial_name,
        "kN",
@@ -117,11 +122,12 @@ private:
       for (const xCombResults& combination : outcome_.results.combResults) {
         data.push_back(profile(line_of(combination.femResults.*quantity.diagram, quantity.scale),
                                same(combination.getCombName()), quantity.unit, quantity.digits,
-                               {.colour = colour_of(data.size())}));
+                               {.colour = colour_of(data.size()),
+                                .dash = data.size() < colour_count ? "solid" : "dash"}));
       }
       add(0, quantity.subject,
-          {quantity.name.italian + ", tutte le combinazioni",
-           quantity.name.english + ", all combinations"},
+          {quantity.name.italian + ", tutte le combinazioni. " + quantity.sign.italian,
+           quantity.name.english + ", all combinations. " + quantity.sign.english},
           std::move(data), profile_layout(frame(quantity.name, quantity.unit), true));
     }
   }
@@ -176,8 +182,11 @@ private:
     }
     const Both name{"Pressione", "Pressure"};
     add(combination.getcombIndex(), "pressures",
-        {"Pressioni di calcolo sopra il fondo scavo, con i coefficienti delle azioni.",
-         "Design pressures above the excavation, with the factors of the actions."},
+        {"Pressioni di calcolo sopra il fondo scavo, con i coefficienti delle azioni. Positive "
+         "verso "
+         "lo scavo.",
+         "Design pressures above the excavation, with the factors of the actions. Positive towards "
+         "the excavation."},
         std::move(data), profile_layout(frame(name, "kPa"), true));
   }
 
@@ -198,8 +207,10 @@ private:
     OrderedJson layout = profile_layout(frame(name, "kPa"), true);
     layout["xaxis"]["range"] = reach_of(reaction);
     add(combination.getcombIndex(), "reaction",
-        {"Reazione del terreno e suo limite, per unità di area della paratia.",
-         "Reaction of the soil and its limit, by area of the wall."},
+        {"Reazione del terreno e suo limite, per unità di area della paratia. Positiva verso "
+         "terra.",
+         "Reaction of the soil and its limit, by area of the wall. Positive towards the retained "
+         "side."},
         {profile(limit, limit_name, "kPa", 1, limit_pen), std::move(other_limit),
          profile(reaction, name, "kPa", 1, {.colour = colour_of(2), .filled = true})},
         std::move(layout));
@@ -285,18 +296,59 @@ private:
     return trace;
   }
 
-  Line circle(const stabChekData& data) const {
+  // The arc along the slices.
+  static Line arc(const xSlopeStability& result) {
     constexpr int steps = 180;
+    const stabChekData& data = result.getstabChekData();
+    double from = data.xc;
+    double to = data.xc;
+    for (const auto& stripe : result.getStripesMin()) {
+      for (const xClipData& piece : stripe) {
+        for (const auto& vertex : piece.polygon) {
+          from = std::min(from, vertex(0));
+          to = std::max(to, vertex(0));
+        }
+      }
+    }
     Line line;
     for (int i = 0; i <= steps; ++i) {
-      const double angle = 2.0 * std::numbers::pi * i / steps;
-      const double y = data.yc + data.radius * std::sin(angle);
-      const double x = data.xc + data.radius * std::cos(angle);
-      // No ground stands above the head, nor above the excavation in front of the wall.
-      if (y > (x < 0.0 ? -mm_of_m(project_.excavation_depth_m) : 0.0)) continue;
-      line.add(m_of_mm(x), m_of_mm(y));
+      const double x = from + (to - from) * i / steps;
+      const double rise =
+          std::sqrt(std::max(0.0, data.radius * data.radius - (x - data.xc) * (x - data.xc)));
+      line.add(m_of_mm(x), m_of_mm(data.yc - rise));
     }
     return line;
+  }
+
+  // The outlines of all layers, with a gap between two.
+  Line layers() const {
+    Line line;
+    for (const xBoundSoilLayer& layer : job_.data.soilLayers) {
+      for (const auto& polygon : layer.polygons) {
+        for (const auto& vertex : polygon)
+          line.add(m_of_mm(vertex(0)), m_of_mm(vertex(1)));
+        line.add(std::nan(""), std::nan(""));
+      }
+    }
+    return line;
+  }
+
+  // The layers reach far beyond what is tried: centres, arc and wall are in view.
+  static OrderedJson view_of(const Line& centres, const Line& arc, const Line& wall) {
+    constexpr double border = 0.04;
+    const auto range = [](std::vector<double> values, const std::vector<double>& more,
+                          const std::vector<double>& yet_more) {
+      values.insert(values.end(), more.begin(), more.end());
+      values.insert(values.end(), yet_more.begin(), yet_more.end());
+      const auto [low, high] = std::minmax_element(values.begin(), values.end());
+      const double beyond = border * (*high - *low);
+      return OrderedJson({*low - beyond, *high + beyond});
+    };
+    OrderedJson layout = plane_layout({"x [m]", "x [m]"}, {"y [m]", "y [m]"});
+    layout["xaxis"]["range"] = range(centres.x, arc.x, wall.x);
+    layout["yaxis"]["range"] = range(centres.y, arc.y, wall.y);
+    layout["yaxis"]["constrain"] = "domain";
+    return layout;
   }
 
   void draw_centres(const xSlopeStability& result) {
@@ -339,15 +391,18 @@ private:
                       {"size", 16},
                       {"color", limit_colour},
                       {"line", {{"width", 2.5}}}};
-    OrderedJson layout = plane_layout({"x [m]", "x [m]"}, {"y [m]", "y [m]"});
+    const Line circle = arc(result);
+    OrderedJson layout = view_of(centres, circle, wall);
     add(result.getCombIndex(), "slip-circles",
-        {fmt::format("Fattori di sicurezza del cerchio peggiore per ogni centro. Minimo {:.3f}.",
-                     worst.sf),
-         fmt::format("Safety factor of the worst circle at each centre. Smallest {:.3f}.",
-                     worst.sf)},
+        Both{"Fattore di sicurezza del cerchio peggiore per ogni centro; x dall'asse della paratia "
+             "verso terra, y dalla testa verso l'alto. Minimo ",
+             "Safety factor of the worst circle at each centre; x from the wall's axis towards the "
+             "retained side, y upwards from its head. Smallest "}
+            + decimals(fmt::format("{:.3f}.", worst.sf)),
         {std::move(map), std::move(mark),
-         outline(circle(worst), {"Cerchio critico", "Governing circle"}, limit_colour),
-         outline(wall, {"Paratia", "Wall"}, "#7d8791")},
+         outline(circle, {"Cerchio critico", "Governing circle"}, limit_colour),
+         outline(layers(), {"Strati", "Layers"}, "#9a6b3f"),
+         outline(wall, {"Paratia", "Wall"}, "#49535b")},
         std::move(layout), true);
   }
 

@@ -22,7 +22,6 @@ OrderedJson finite(const std::vector<double>& values) {
 
 OrderedJson axis(const Both& title) {
   return {{"title", {{"text", title}, {"standoff", 6}}},
-          {"automargin", true},
           {"zeroline", true},
           {"zerolinewidth", 1.5},
           {"ticks", "outside"},
@@ -37,15 +36,15 @@ OrderedJson bare_layout() {
           {"font", {{"size", letters_px}}},
           {"hovermode", "closest"},
           {"dragmode", false},
-          {"margin", {{"l", 48}, {"r", 12}, {"t", 40}, {"b", 44}}}};
+          {"margin", {{"l", 52}, {"r", 14}, {"t", 12}, {"b", 46}}}};
 }
 
 }  // namespace
 
 const std::string& colour_of(std::size_t place) {
-  static const std::array<std::string, 8> colours{"#2f7fc1", "#d8761c", "#1f9c76", "#b8549a",
-                                                  "#8a6d3b", "#5b6fd6", "#c8a300", "#7d8791"};
-  return colours[place % colours.size()];
+  static const std::array<std::string, colour_count> colours{
+      "#2f7fc1", "#d8761c", "#1f9c76", "#b8549a", "#8a6d3b", "#5b6fd6", "#c8a300", "#7d8791"};
+  return colours[place % colour_count];
 }
 
 OrderedJson profile(const Line& line, const Both& name, const std::string& unit, int digits,

@@ -32,8 +32,10 @@ struct Pen {
   bool marked = false;  ///< with its points
 };
 
-/// A colour of its own for each place of a list, told apart by those who see red and green alike;
-/// after eight they come again.
+/// After so many the colours come again.
+inline constexpr std::size_t colour_count = 8;
+
+/// A colour of its own for each place of a list, told apart by those who see red and green alike.
 const std::string& colour_of(std::size_t place);
 
 /// A line over the depth. A value that is not finite leaves a gap.

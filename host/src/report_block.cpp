@@ -30,6 +30,7 @@ OrderedJson ReportTable::block() const {
   OrderedJson columns = OrderedJson::array();
   for (const ReportColumn& column : columns_) {
     columns.push_back({{"label", column.label}, {"unit", column.unit}, {"digits", column.digits}});
+    if (column.largest) columns.back()["largest"] = true;
   }
   return {{"kind", "table"},
           {"id", id_},
@@ -45,6 +46,19 @@ void ReportFacts::add(const Both& label, const OrderedJson& value, const std::st
 
 OrderedJson ReportFacts::block() const {
   return {{"kind", "facts"}, {"caption", caption_}, {"rows", rows_}};
+}
+
+OrderedJson number_cell(double value) {
+  return cell(value);
+}
+
+OrderedJson pair_cell(double first, double second) {
+  return {{"pair", {cell(first), cell(second)}}};
+}
+
+OrderedJson folded(OrderedJson block) {
+  block["folded"] = true;
+  return block;
 }
 
 OrderedJson verdict_cell(bool holds) {

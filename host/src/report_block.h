@@ -3,8 +3,8 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // A block is data alone; the page's script turns it into elements, in the language in view, with
-// numbers in that language's form. A cell is a number, a text, a text in both languages, true or
-// false, or a verdict.
+// numbers in that language's form. A cell is a number or two, a text, a text in both languages,
+// true or false, or a verdict.
 
 #include "bilingual.h"
 
@@ -22,6 +22,7 @@ struct ReportColumn {
   Both label;
   std::string unit = {};  ///< empty for none
   int digits = no_digits;
+  bool largest = false;  ///< the number that is largest in size stands out
 };
 
 /// A table; numbers stand to the right, texts to the left.
@@ -54,8 +55,17 @@ private:
   OrderedJson rows_ = OrderedJson::array();
 };
 
+/// Null for what is no number.
+OrderedJson number_cell(double value);
+
+/// A cell with two numbers, as "1 / 1.3".
+OrderedJson pair_cell(double first, double second);
+
 /// A cell that tells whether something holds.
 OrderedJson verdict_cell(bool holds);
+
+/// A table that is shown on request, and on paper. @param block  of a table
+OrderedJson folded(OrderedJson block);
 
 OrderedJson figures_block(const std::vector<std::string>& ids);
 OrderedJson drawing_block(const std::string& id, const Both& caption, const std::string& svg);

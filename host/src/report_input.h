@@ -7,10 +7,6 @@
 
 namespace ostrel::host {
 
-/// "Ultimate limit state", "Seismic" and so on.
-const Both& name_of(pCombinationTypes kind);
-const Both& name_of(pCheckTypes check);
-
 /// Blocks with all that the project says: wall, ground, water, anchors, supports, loads,
 /// combinations with their factors, reinforcement, search of slip circles, calculation.
 OrderedJson input_blocks(const Project& project);

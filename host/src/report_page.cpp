@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "report_page.h"
 
+#include "embedded_files.h"
 #include "figures.h"
+#include "library_messages.h"
 #include "report_block.h"
-#include "report_files.h"
 #include "report_input.h"
 #include "report_results.h"
+#include "report_verifications.h"
 #include "run_data.h"
 #include "section_drawing.h"
 #include "svg.h"
@@ -55,6 +57,13 @@ std::string filled(std::string_view page, const std::map<std::string_view, std::
   return result += page;
 }
 
+// Nothing in a build without figures.
+std::string plotly_with_licence() {
+  const std::string_view plotly = embedded_file("plotly.js");
+  if (plotly.empty()) return {};
+  return "/*\n" + std::string(embedded_file("plotly.licence")) + "*/\n" + std::string(plotly);
+}
+
 OrderedJson message_block(const Project& project, const Job& job, const Outcome& outcome) {
   static const Both error{"Errore:", "Error:"};
   static const Both warning{"Attenzione:", "Warning:"};
@@ -69,7 +78,7 @@ OrderedJson message_block(const Project& project, const Job& job, const Outcome&
                      {"label", is_error     ? error
                                : is_warning ? warning
                                             : remark},
-                     {"text", message.GetErrorStr()}});
+                     {"text", in_both(message)}});
   }
   const auto italian = result_warnings(project, job, outcome, Texts(Language::italian));
   const auto english = result_warnings(project, job, outcome, Texts(Language::english));
@@ -88,6 +97,8 @@ OrderedJson result_blocks(const Project& project, const Job& job, const Outcome&
     blocks.push_back(note_block({"L'analisi ha segnalato un errore: i risultati non sono completi.",
                                  "The analysis reported an error: the results are not complete."}));
   }
+  if (OrderedJson verdict = verdict_block(outcome); !verdict.is_null())
+    blocks.push_back(std::move(verdict));
   for (OrderedJson& block : overview_blocks(project, job, outcome, figures))
     blocks.push_back(std::move(block));
   OrderedJson messages = message_block(project, job, outcome);
@@ -97,27 +108,29 @@ OrderedJson result_blocks(const Project& project, const Job& job, const Outcome&
 
 OrderedJson convention_blocks(const Project& project) {
   OrderedJson blocks = OrderedJson::array();
-  const double width = project.wall.spacing_m;
+  const Both of_wall =
+      decimals(fmt::format("{:.2f} m", project.wall.spacing_m)) + Both{" di paratia.", " of wall."};
   if (project.wall.is_diaphragm) {
     blocks.push_back(
-        note_block({fmt::format("Le forze sono quelle di un pannello, {:.2f} m di paratia.", width),
-                    fmt::format("Forces are those of one panel, {:.2f} m of wall.", width)}));
+        note_block(Both{"Le forze sono quelle di un pannello, ", "Forces are those of one panel, "}
+                   + of_wall));
   } else {
-    blocks.push_back(
-        note_block({fmt::format("Le forze sono quelle di un palo, {:.2f} m di paratia.", width),
-                    fmt::format("Forces are those of one pile, {:.2f} m of wall.", width)}));
+    blocks.push_back(note_block(
+        Both{"Le forze sono quelle di un palo, ", "Forces are those of one pile, "} + of_wall));
   }
   blocks.push_back(
       note_block({"Quote in metri dalla testa della paratia, positive verso l'alto; "
                   "profondità dalla testa, positive verso il basso.",
                   "Levels in metres from the head of the wall, positive upwards; depths "
                   "from the head, positive downwards."}));
-  blocks.push_back(
-      note_block({"Spostamenti e forze orizzontali positivi verso lo scavo; momenti "
-                  "positivi se tendono il lato dello scavo; trazione positiva.",
-                  "Displacements and horizontal forces count positive towards the "
-                  "excavation; moments where they stretch the excavation side; tension "
-                  "is positive."}));
+  blocks.push_back(note_block(
+      {"Spostamenti, pressioni e carichi orizzontali positivi verso lo scavo, reazioni del "
+       "terreno e degli appoggi verso terra; momenti positivi se tendono il lato dello "
+       "scavo; taglio V = dM/dz, z verso il basso; trazione positiva.",
+       "Displacements, pressures and horizontal loads count positive towards the "
+       "excavation, reactions of soil and supports towards the retained side; moments "
+       "where they stretch the excavation side; shear V = dM/dz, z downwards; tension is "
+       "positive."}));
   blocks.push_back(
       note_block({"Pressioni e reazioni per unità di area della paratia, su tutto "
                   "l'interasse. Un fattore di sicurezza di almeno 1 soddisfa la verifica.",
@@ -164,18 +177,14 @@ OrderedJson report_data(const Project& project, const Job& job, const Outcome& o
 
 std::string report_page(const Project& project, const Job& job, const Outcome& outcome,
                         Language language) {
-  const ReportFiles& files = report_files();
-  std::string plotly;
-  if (!files.plotly.empty()) {
-    plotly = "/*\n" + std::string(files.plotly_licence) + "*/\n" + std::string(files.plotly);
-  }
-  return filled(files.page, {{"language", code_of(language)},
-                             {"program", escaped(program())},
-                             {"title", escaped(project.name)},
-                             {"style", std::string(files.style)},
-                             {"data", data_text(report_data(project, job, outcome, language))},
-                             {"plotly", std::move(plotly)},
-                             {"script", std::string(files.script)}});
+  return filled(embedded_file("page.html"),
+                {{"language", code_of(language)},
+                 {"program", escaped(program())},
+                 {"title", escaped(project.name)},
+                 {"style", std::string(embedded_file("report.css"))},
+                 {"data", data_text(report_data(project, job, outcome, language))},
+                 {"plotly", plotly_with_licence()},
+                 {"script", std::string(embedded_file("report.js"))}});
 }
 
 }  // namespace ostrel::host

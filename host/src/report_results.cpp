@@ -3,7 +3,7 @@
 
 #include "equilibrium.h"
 #include "report_block.h"
-#include "report_input.h"
+#include "report_combinations.h"
 #include "summary.h"
 #include "units.h"
 #include "verification.h"
@@ -160,8 +160,8 @@ OrderedJson support_force_table(const Summary& summary) {
   ReportTable table(fmt::format("support-forces-{:02}", summary.index),
                     {"Appoggi, forze sulla paratia", "Supports, forces on the wall"},
                     {{{"Profondità", "Depth"}, "m", 2},
-                     {{"Orizzontale", "Horizontal"}, "kN", 1},
-                     {{"Verticale", "Vertical"}, "kN", 1},
+                     {{"Orizzontale, verso terra", "Horizontal, towards retained side"}, "kN", 1},
+                     {{"Verticale, verso l'alto", "Vertical, upwards"}, "kN", 1},
                      {{"Momento", "Moment"}, "kNm", 1}});
   for (const SupportState& support : summary.supports) {
     table.add({support.depth_m, part(support.horizontal_kN), part(support.vertical_kN),
@@ -213,64 +213,14 @@ OrderedJson stretch_table(const xReinforcement& reinforcement, bool rectangle) {
     std::vector<OrderedJson> cells{m_of_mm(sections[first]->getAbscissa()), end, bars.uphill};
     if (rectangle) cells.emplace_back(bars.valley);
     cells.emplace_back(cm2_of_mm2(sections[first]->Atot()));
-    cells.emplace_back(bars.stirrups);
+    cells.emplace_back(decimals(bars.stirrups));
     table.add(std::move(cells));
     first = next;
   }
   return table.block();
 }
 
-// What the library says of each verification that is not satisfied, in its language.
-OrderedJson failure_block(const Outcome& outcome) {
-  std::vector<osg::ref_ptr<xCheckInfo>> failures;
-  xUltimateLimitStates ultimate = outcome.ultimate;
-  xServiceabilityLimitStates serviceability = outcome.serviceability;
-  ultimate.getSfMin(&failures);
-  serviceability.getSfMin(&failures);
-  OrderedJson items = OrderedJson::array();
-  for (const auto& failure : failures) {
-    items.push_back({{"severity", "error"},
-                     {"label", Both{"Non verificata:", "Not satisfied:"}},
-                     {"text", failure->getString()}});
-  }
-  if (items.empty()) return {};
-  return {{"kind", "messages"}, {"items", std::move(items)}};
-}
-
 }  // namespace
-
-OrderedJson verification_blocks(const Outcome& outcome) {
-  const Texts italian(Language::italian);
-  const Texts english(Language::english);
-  const std::vector<Verification> in_italian =
-      verifications_of(outcome.ultimate, outcome.serviceability, italian);
-  const std::vector<Verification> in_english =
-      verifications_of(outcome.ultimate, outcome.serviceability, english);
-  ReportTable table("verifications",
-                    {"Fattore di sicurezza minimo di ogni verifica",
-                     "Smallest safety factor of each verification"},
-                    {{{"Verifica", "Verification"}},
-                     {{"Fattore", "Factor"}, "", 2},
-                     {{"Esito", "Outcome"}},
-                     {{"Combinazione", "Combination"}},
-                     {{"Dove", "Where"}}});
-  for (std::size_t i = 0; i < in_english.size(); ++i) {
-    const Verification& one = in_english[i];
-    const Both name{std::string(name_of(one.check, italian)),
-                    std::string(name_of(one.check, english))};
-    if (!one.made) {
-      table.add({name, OrderedJson(), Both{"non eseguita", "not made"}, "–", "–"});
-      continue;
-    }
-    table.add({name, shown(one.factor), verdict_cell(!is_below(one, 1.0)), one.combination,
-               Both{in_italian[i].place, one.place}});
-  }
-  OrderedJson blocks = OrderedJson::array();
-  blocks.push_back(table.block());
-  OrderedJson failures = failure_block(outcome);
-  if (!failures.is_null()) blocks.push_back(std::move(failures));
-  return blocks;
-}
 
 OrderedJson overview_blocks(const Project& project, const Job& job, const Outcome& outcome,
                             const std::vector<Figure>& figures) {
@@ -278,13 +228,13 @@ OrderedJson overview_blocks(const Project& project, const Job& job, const Outcom
                     {"Valori massimi di ogni combinazione", "Largest values of each combination"},
                     {{{"Combinazione", "Combination"}},
                      {{"Tipo", "Type"}},
-                     {{"Momento", "Moment"}, "kNm", 1},
-                     {{"Taglio", "Shear"}, "kN", 1},
-                     {{"Sforzo normale", "Axial force"}, "kN", 1},
-                     {{"Spostamento", "Displacement"}, "mm", 1},
-                     {{"in testa", "at the head"}, "mm", 1},
-                     {{"a fondo scavo", "at the excavation"}, "mm", 1},
-                     {{"Molla più sfruttata", "Most used spring"}, "%", 1},
+                     {{"Momento", "Moment"}, "kNm", 1, true},
+                     {{"Taglio", "Shear"}, "kN", 1, true},
+                     {{"Sforzo normale", "Axial force"}, "kN", 1, true},
+                     {{"Spostamento", "Displacement"}, "mm", 1, true},
+                     {{"in testa", "at the head"}, "mm", 1, true},
+                     {{"a fondo scavo", "at the excavation"}, "mm", 1, true},
+                     {{"Molla più sfruttata", "Most used spring"}, "%", 1, true},
                      {{"Molle al limite", "Springs at their limit"}}});
   for (std::size_t i = 0; i < project.combinations.size(); ++i) {
     const CombinationInput& input = project.combinations[i];
@@ -344,8 +294,8 @@ OrderedJson reinforcement_blocks(const Project& project, const Outcome& outcome,
   const double depth = m_of_mm((*heaviest)->getAbscissa());
   blocks.push_back(drawing_block(
       "wall-section",
-      {fmt::format("Sezione più armata, a {:.2f} m dalla testa.", depth),
-       fmt::format("The section with most reinforcement, {:.2f} m below the head.", depth)},
+      Both{"Sezione più armata, a ", "The section with most reinforcement, "}
+          + decimals(fmt::format("{:.2f} m", depth)) + Both{" dalla testa.", " below the head."},
       wall_section_drawing(project.wall, *project.wall.reinforcement, **heaviest)));
   blocks.push_back(stretch_table(reinforcement, project.wall.is_diaphragm));
   blocks.push_back(figures_block(ids_ending(figures, {"-bars", "-stirrups"})));

@@ -11,9 +11,6 @@
 
 namespace ostrel::host {
 
-/// Each verification with its smallest factor and whether it is satisfied, and what is not.
-OrderedJson verification_blocks(const Outcome& outcome);
-
 /// The largest values of all combinations side by side, with the figures of all of them.
 OrderedJson overview_blocks(const Project& project, const Job& job, const Outcome& outcome,
                             const std::vector<Figure>& figures);

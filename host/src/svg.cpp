@@ -112,7 +112,7 @@ void Svg::dimension(Spot from, Spot to, const Both& words) {
   if (std::abs(to.x - from.x) > std::abs(to.y - from.y)) {
     text({middle.x, middle.y - 5.0}, words, Hold::middle, "dim-text");
   } else {
-    upright_text({middle.x - 5.0, middle.y}, words, "dim-text");
+    turned_text({middle.x - 5.0, middle.y}, -90.0, words, "dim-text");
   }
 }
 
@@ -122,11 +122,11 @@ void Svg::text(Spot at, const Both& words, Hold hold, const char* style) {
              style);
 }
 
-void Svg::upright_text(Spot at, const Both& words, const char* style) {
-  write_text(
-      at, words,
-      fmt::format("text-anchor=\"middle\" transform=\"rotate(-90 {:.2f} {:.2f})\"", at.x, at.y),
-      style);
+void Svg::turned_text(Spot at, double degrees, const Both& words, const char* style) {
+  write_text(at, words,
+             fmt::format("text-anchor=\"middle\" transform=\"rotate({:g} {:.2f} {:.2f})\"", degrees,
+                         at.x, at.y),
+             style);
 }
 
 void Svg::write_text(Spot at, const Both& words, const std::string& attributes, const char* style) {
@@ -157,8 +157,11 @@ void Svg::begin_clip(const std::string& id, Spot corner, double width, double he
 }
 
 std::string Svg::markup(const Both& title) const {
-  return fmt::format("<svg viewBox=\"0 0 {:.0f} {:.0f}\" role=\"img\" aria-label=\"{}\">\n", width_,
-                     height_, escaped(title.english))
+  return fmt::format(
+             "<svg viewBox=\"0 0 {:.0f} {:.0f}\" role=\"img\" aria-label=\"{}\" data-it=\"{}\" "
+             "data-en=\"{}\">\n",
+             width_, height_, escaped(title.english), escaped(title.italian),
+             escaped(title.english))
        + body_ + "</svg>";
 }
 

@@ -41,15 +41,15 @@ public:
   /// A line between two places, with a tick at either end and a text beside its middle.
   void dimension(Spot from, Spot to, const Both& text);
   void text(Spot at, const Both& text, Hold hold, const char* style);
-  /// The same, turned by -90 degrees.
-  void upright_text(Spot at, const Both& text, const char* style);
+  /// The same with its middle at a place, turned by so many degrees, clockwise where positive.
+  void turned_text(Spot at, double degrees, const Both& text, const char* style);
 
   /// What follows until `end_group` is clipped by the closed outlines, or by a rectangle.
   void begin_clip(const std::string& id, const std::vector<std::vector<Spot>>& outlines);
   void begin_clip(const std::string& id, Spot corner, double width, double height);
   void end_group() { body_ += "</g>\n"; }
 
-  /// The whole drawing. @param title  for those who do not see it
+  /// The whole drawing. @param title  for those who do not see it; the page takes its language
   std::string markup(const Both& title) const;
 
 private:

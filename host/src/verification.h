@@ -38,6 +38,9 @@ struct Verification {
   double factor = unlimited;  ///< safety factor [-]
   std::string combination{};
   std::string place{};  ///< in words; empty where the verification has but one place
+  int index = 0;        ///< number of the combination
+  int places = 0;       ///< results that it is the worst of
+  int failing = 0;      ///< of these, how many are below 1 or no number
 };
 
 /// One entry for each verification, in the order of the enumeration, made or not.
@@ -56,6 +59,12 @@ const xAnchorResults* anchor_result(const std::vector<Anchor>& anchors, std::siz
   }
   return nullptr;
 }
+
+/// Likewise one entry for each combination that a verification was made in, the verifications in the
+/// order of the enumeration and their combinations by number.
+std::vector<Verification> verifications_by_combination(
+    const xUltimateLimitStates& ultimate, const xServiceabilityLimitStates& serviceability,
+    const Texts& texts);
 
 std::string_view name_of(Check check, const Texts& texts);
 

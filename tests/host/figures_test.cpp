@@ -119,6 +119,44 @@ TEST_F(Figures, ShowTheLimitOfTheSoilOnBothSides) {
   EXPECT_DOUBLE_EQ(data[1]["x"][3].get<double>(), -limit);
 }
 
+// A circle of 5 m about (-4, 1) m with slices from -8 to -1 m: at -4 it is deepest, at -4 m, and both
+// ends are 4 and 3 m from the centre, 3 and 4 m below it. In view are the centres, the arc and the
+// wall of 10 m, and 4 in 100 more: x from -8 to 0, y from -10 to 1.
+TEST_F(Figures, ShowTheGoverningCircleAlongItsSlices) {
+  project_ = project_of(sound_project());
+  const Job job = to_job(project_);
+  xSlopeStability result;
+  result.setCheckID(7, 1, "C");
+  stabChekData& data = result.getstabChekData();
+  data.xc = -4000.0;
+  data.yc = 1000.0;
+  data.radius = 5000.0;
+  data.sf = 2.0;
+  xGridPointResults centre;
+  centre.center = xPoint2d(-4000.0, 1000.0);
+  centre.radius = 5000.0;
+  centre.sf = 2.0;
+  result.get_gridPointRes() = {centre};
+  xClipData piece;
+  piece.polygon = {arma::vec2{-8000.0, -2000.0}, arma::vec2{-1000.0, -3000.0}};
+  result.getStripesMin() = {{piece}};
+  outcome_.ultimate.slopeStabilityDesign.getResults() = {result};
+  figures_ = figures(project_, job, outcome_);
+  const OrderedJson drawn = plot("01-slip-circles");
+  const OrderedJson arc = drawn["data"][2];
+  EXPECT_DOUBLE_EQ(arc["x"].front().get<double>(), -8.0);
+  EXPECT_DOUBLE_EQ(arc["y"].front().get<double>(), -2.0);
+  EXPECT_DOUBLE_EQ(arc["x"].back().get<double>(), -1.0);
+  EXPECT_DOUBLE_EQ(arc["y"].back().get<double>(), -3.0);
+  const auto range = [&](const char* axis, int end) {
+    return drawn["layout"][axis]["range"][end].get<double>();
+  };
+  EXPECT_DOUBLE_EQ(range("xaxis", 0), -8.0 - 0.32);
+  EXPECT_DOUBLE_EQ(range("xaxis", 1), 0.32);
+  EXPECT_DOUBLE_EQ(range("yaxis", 0), -10.0 - 0.44);
+  EXPECT_DOUBLE_EQ(range("yaxis", 1), 1.0 + 0.44);
+}
+
 TEST_F(Figures, AreNotThereForACombinationWithoutResult) {
   Json project = sound_project();
   project["combinations"].push_back(

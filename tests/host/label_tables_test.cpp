@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -35,7 +36,7 @@ TEST(LabelTables, AreFullWhenThreadsReadThem) {
 // A table that the library gets later has to be filled here as well.
 TEST(LabelTables, AreAllThatTheLibraryFillsAtFirstUse) {
   const auto count_in = [](const std::string& file) {
-    std::ifstream stream(std::string(OSTREL_SOURCES) + "/" + file);
+    std::ifstream stream(std::filesystem::path(OSTREL_SOURCES) / file);
     const std::string text(std::istreambuf_iterator<char>(stream), {});
     std::size_t found = 0;
     for (std::size_t at = text.find("  static std::"); at != std::string::npos;

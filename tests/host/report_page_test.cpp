@@ -2,11 +2,12 @@
 #include "report_page.h"
 
 #include "command_line.h"
+#include "embedded_files.h"
 #include "figures.h"
 #include "host_testing.h"
+#include "library_messages.h"
 #include "project_conversion.h"
 #include "report_block.h"
-#include "report_files.h"
 #include "section_drawing.h"
 
 #include <gmock/gmock.h>
@@ -64,7 +65,7 @@ protected:
   // The page without the library that draws its figures.
   std::string own_page() const {
     std::string page = page_;
-    const std::string_view plotly = report_files().plotly;
+    const std::string_view plotly = embedded_file("plotly.js");
     const std::size_t place = plotly.empty() ? std::string::npos : page.find(plotly);
     if (place != std::string::npos) page.erase(place, plotly.size());
     return page;
@@ -211,8 +212,35 @@ TEST_F(ReportPage, TellsWhichVerificationIsSatisfied) {
     EXPECT_EQ(rows[9][2]["verdict"], holds);
     EXPECT_EQ(rows[9][3], "C");
     EXPECT_EQ(rows[0][2]["en"], "not made");
-    EXPECT_EQ(blocks("messages").empty(), holds);
+    EXPECT_EQ(table("all-verifications")["rows"].size(), 1U);
+    ASSERT_EQ(blocks("verdict").size(), 1U);
+    EXPECT_EQ(blocks("verdict")[0]["holds"], holds);
   }
+}
+
+// Whatever the language of the run, of the library's messages and of the notes. The earth pressure of
+// the second combination is more than the soil can bear.
+TEST_F(ReportPage, IsTheSameForARunInEitherLanguage) {
+  Json json = sound_project();
+  json["standard"] = "NTC2008";
+  json["combinations"].push_back(
+      {{"name", "too much"}, {"type", "ultimate"}, {"actions", {{"earth_pressure", 80}}}});
+  std::vector<OrderedJson> told;
+  for (const Language language : {Language::italian, Language::english}) {
+    choose_language(language);
+    Problems problems{Texts(language)};
+    project_ = read_project(json.dump(), problems).value_or(Project{});
+    job_ = to_job(project_);
+    outcome_ = analyse(job_);
+    EXPECT_FALSE(outcome_.messages.empty());
+    EXPECT_FALSE(project_.notes.empty());
+    told.push_back(report_data(project_, job_, outcome_, Language::english));
+  }
+  EXPECT_EQ(told[0], told[1]);
+  data_ = told[0];
+  ASSERT_EQ(blocks("messages").size(), 1U);
+  for (const OrderedJson& message : blocks("messages")[0]["items"])
+    EXPECT_NE(message["text"]["it"], message["text"]["en"]);
 }
 
 TEST_F(ReportPage, GivesNumbersTheirUnits) {
@@ -238,7 +266,7 @@ TEST_F(ReportPage, DrawsTheSectionWithItsParts) {
   const std::string svg = section_drawing(project_, job_, outcome_);
   for (const char* part : {"class=\"soil soil-0\"", "class=\"water\"", "class=\"concrete\"",
                            "class=\"tendon\"", "class=\"bond\"", "class=\"load head\"",
-                           ">excavation 4.00 m<", ">infissione 6.00 m<", "Q, 10 kPa"}) {
+                           ">excavation 4.00 m<", ">infissione 6,00 m<", "Q, 10 kPa"}) {
     EXPECT_THAT(svg, HasSubstr(part));
   }
 }

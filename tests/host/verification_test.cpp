@@ -46,6 +46,35 @@ TEST(Verification, OfTheWallIsItsWorstSection) {
   EXPECT_EQ(found(Check::wall, ultimate).place, "4.00 m, bending");
 }
 
+TEST(Verification, IsAlsoToldForEachCombination) {
+  xUltimateLimitStates ultimate;
+  ultimate.structuralDesign = verified_wall();
+  // The second anchor of a combination counts for the same.
+  ultimate.structuralAnchorDesign.anchors.resize(2);
+  ultimate.structuralAnchorDesign.anchors[0].combinations = {
+      anchor_result<xStrAnchorCombRes>("A", 3.0)};
+  ultimate.structuralAnchorDesign.anchors[1].combinations = {
+      anchor_result<xStrAnchorCombRes>("A", 0.5)};
+  const auto all = verifications_by_combination(ultimate, {}, english);
+  ASSERT_EQ(all.size(), 3u);
+  EXPECT_EQ(all[0].combination, "A");
+  EXPECT_DOUBLE_EQ(all[0].factor, 1.2);
+  EXPECT_EQ(all[0].places, 3);
+  EXPECT_EQ(all[0].failing, 0);
+  EXPECT_EQ(all[1].combination, "B");
+  EXPECT_EQ(all[1].index, 2);
+  EXPECT_DOUBLE_EQ(all[1].factor, 0.8);
+  EXPECT_EQ(all[1].places, 2);
+  EXPECT_EQ(all[1].failing, 1);
+  EXPECT_EQ(all[2].check, Check::anchor_tendon);
+  EXPECT_EQ(all[2].factor, 0.5);
+  EXPECT_EQ(all[2].places, 2);
+}
+
+TEST(Verification, IsNotToldForACombinationWithoutResults) {
+  EXPECT_TRUE(verifications_by_combination({}, {}, english).empty());
+}
+
 TEST(Verification, OfTheDisplacementsIsTheSmallerFactorOfHeadAndExcavation) {
   const Verification verification = found(Check::displacements, {}, verified_displacements());
   EXPECT_DOUBLE_EQ(verification.factor, 2.0);
@@ -93,7 +122,7 @@ TEST(Verification, OfTheSlopeIsTheWorstCircle) {
   const Verification slope = found(Check::slope, ultimate);
   EXPECT_EQ(slope.factor, 2.0);
   EXPECT_EQ(slope.combination, "B");
-  EXPECT_EQ(slope.place, "(-4.0, 4.5) R 21.0");
+  EXPECT_EQ(slope.place, "x -4.0 y 4.5 R 21.0 m");
 }
 
 TEST(Verification, OfTheAnchorsIsTheWorstOfAll) {

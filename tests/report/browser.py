@@ -8,11 +8,15 @@ import select
 import shutil
 import subprocess
 import tempfile
+import threading
 import time
 from pathlib import Path
 
 NAMES = ("chromium-headless-shell", "chromium", "chromium-browser", "google-chrome")
 PATIENCE_S = 120.0
+
+# The descriptors that a browser starts with have fixed numbers.
+STARTING = threading.Lock()
 
 # Pages that are not in front are drawn as fast as the one that is.
 AWAKE = ("--disable-background-timer-throttling", "--disable-backgrounding-occluded-windows",
@@ -40,6 +44,10 @@ class Browser:
 
     def _start(self, path: str, read: int, write: int) -> subprocess.Popen:
         # The browser reads from descriptor 3 and writes to 4.
+        with STARTING:
+            return self._start_alone(path, read, write)
+
+    def _start_alone(self, path: str, read: int, write: int) -> subprocess.Popen:
         high = [os.dup2(read, 203), os.dup2(write, 204)]
         shell = 'exec "$@" 3<&203 4>&204 203<&- 204>&-'
         command = [path, "--headless", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage",
