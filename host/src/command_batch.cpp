@@ -136,8 +136,8 @@ private:
     if (folder_.empty()) return;
     const WrittenFolder written =
         write_results(folder_, project, job, outcome, options_.texts.language());
-    result_.messages += with_name(
-        result_.file, strangers_warning(folder_, written.strangers, options_.texts));
+    result_.messages +=
+        with_name(result_.file, strangers_warning(folder_, written.strangers, options_.texts));
     if (!written.failure) return;
     result_.verdict = BatchVerdict::not_written;
     result_.messages += options_.texts(Text::cannot_write, written.failure->file,

@@ -136,7 +136,8 @@ inline constexpr Phrase out_of_balance{
     "{0}: fuori equilibrio per {1} kN in orizzontale, {2} kN in verticale, {3} kNm",
     "{0}: out of balance by {1} kN across, {2} kN along the wall, {3} kNm"};  // combination, kN, kN, kNm
 inline constexpr Phrase warning{"Attenzione: {0}", "Warning: {0}"};
-inline constexpr Phrase strangers_in_folder{  // folder, how many, the first of them
+inline constexpr Phrase strangers_in_folder{
+    // folder, how many, the first of them
     "{0} contiene {1} altri file di tabelle o figure, che non sono di questo calcolo ({2}, ...)",
     "{0} holds {1} other files of tables or figures, which are not of this run ({2}, ...)"};
 inline constexpr Phrase residual_horizontal{"Residuo orizzontale (verso terra)",

@@ -58,8 +58,8 @@ WrittenFolder write_results(const std::string& folder, const Project& project, c
 std::string strangers_warning(const std::string& folder, const std::vector<std::string>& strangers,
                               const Texts& texts) {
   if (strangers.empty()) return {};
-  return phrase::warning.in(texts, phrase::strangers_in_folder.in(texts, folder, strangers.size(),
-                                                                  strangers.front()));
+  return phrase::warning.in(
+      texts, phrase::strangers_in_folder.in(texts, folder, strangers.size(), strangers.front()));
 }
 
 }  // namespace ostrel::host

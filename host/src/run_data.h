@@ -30,9 +30,9 @@ struct RunData {
   double excavation_depth_m = 0.0;
   std::vector<std::string> anchor_names;  ///< empty for one without a name
   std::vector<CombinationData> combinations;
-  bool through = true;             ///< all combinations solved and all verifications made
-  std::vector<std::string> notes;  ///< on the standard of the project, in the language of the run
-  std::vector<std::string> remarks;   ///< on the project, in the language of the run
+  bool through = true;               ///< all combinations solved and all verifications made
+  std::vector<std::string> notes;    ///< on the standard of the project, in the language of the run
+  std::vector<std::string> remarks;  ///< on the project, in the language of the run
   std::vector<std::string> messages;  ///< of and on the analysis, in the language of the run
   xUltimateLimitStates ultimate;
   xServiceabilityLimitStates serviceability;

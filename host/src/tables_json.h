@@ -12,8 +12,8 @@ namespace ostrel::host {
 
 /// What of the run stands beside its tables.
 struct TablesHead {
-  std::string project;  ///< name
-  bool through = true;  ///< all combinations solved and all verifications made
+  std::string project;                     ///< name
+  bool through = true;                     ///< all combinations solved and all verifications made
   std::vector<std::string> messages = {};  ///< on the project, of the analysis and on its results
 };
 

@@ -41,12 +41,11 @@ TEST_F(Loading, KeepsWhatLooksOddInBothLanguages) {
     ASSERT_THAT(project.odd_places, SizeIs(1));
     EXPECT_EQ(project.odd_places[0].path, "soils[0].friction_angle_deg");
     EXPECT_NE(project.odd_places[0].italian, project.odd_places[0].english);
-    EXPECT_THAT(remarks_on(project, Texts(Language::italian)),
-                Contains("Attenzione: soils[0].friction_angle_deg: "
-                         + project.odd_places[0].italian));
+    EXPECT_THAT(
+        remarks_on(project, Texts(Language::italian)),
+        Contains("Attenzione: soils[0].friction_angle_deg: " + project.odd_places[0].italian));
     EXPECT_THAT(remarks_on(project, Texts(Language::english)),
-                Contains("Warning: soils[0].friction_angle_deg: "
-                         + project.odd_places[0].english));
+                Contains("Warning: soils[0].friction_angle_deg: " + project.odd_places[0].english));
   }
 }
 

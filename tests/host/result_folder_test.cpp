@@ -40,8 +40,8 @@ TEST_F(Folder, NamesWhatAnotherRunLeft) {
   write(with("/combinations/0/name", "Other"));
   folder_.write("results/wall.json", "{}");
   const WrittenFolder written = write(sound_project());
-  EXPECT_THAT(written.strangers, ElementsAre("01-Other-pressures.csv", "01-Other-springs.csv",
-                                             "01-Other-wall.csv"));
+  EXPECT_THAT(written.strangers,
+              ElementsAre("01-Other-pressures.csv", "01-Other-springs.csv", "01-Other-wall.csv"));
   EXPECT_THAT(strangers_warning(results_, written.strangers, english),
               HasSubstr("3 other files of tables or figures, which are not of this run "
                         "(01-Other-pressures.csv"));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "text_table.h"
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 
 #include <sstream>
@@ -57,8 +58,8 @@ TEST(TextTable, LetsTheNamedColumnGiveWay) {
   table.give_way(1);
   table.add_row({std::string(30, 'a'), std::string(60, 'b')});
   const std::string text = table.render();
-  EXPECT_THAT(text,
-              ::testing::HasSubstr(std::string(30, 'a') + "  " + std::string(47, 'b') + "…\n"));
+  EXPECT_THAT(text, ::testing::HasSubstr(
+                        fmt::format("{}  {}…\n", std::string(30, 'a'), std::string(47, 'b'))));
 }
 
 TEST(Wrapped, BreaksAtBlanksAndIndentsWhatFollows) {

@@ -84,7 +84,7 @@ TEST_F(VerificationTable, DoesNotCallWhatIsNoNumberSatisfied) {
 
 TEST_F(VerificationTable, KeepsToTheWidthOfATerminalAndToItsLines) {
   data_.ultimate.structuralDesign.bendShear.combinations = {
-      sections_of(std::string(200, 'c') + "\x1b[2J", 1, {section_at(12345e3, 400.0, 0.0)})};
+      sections_of(std::string(200, 'c').append("\x1b[2J"), 1, {section_at(12345e3, 400.0, 0.0)})};
   for (const Language language : {Language::english, Language::italian}) {
     const std::string table = verification_table(data_, Texts(language));
     EXPECT_THAT(table, Not(HasSubstr("\x1b")));
