@@ -8,6 +8,14 @@
 
 namespace ostrel::host {
 
+namespace {
+
+std::string counted(std::size_t number, Text one, Text many, const Texts& texts) {
+  return number == 1 ? std::string(texts(one)) : texts(many, number);
+}
+
+}  // namespace
+
 int check_project_file(const CheckOptions& options, std::ostream& out, std::ostream& err) {
   const LoadedProject loaded = load_project(options.source, options.texts, err);
   if (loaded.project) {
@@ -17,7 +25,11 @@ int check_project_file(const CheckOptions& options, std::ostream& out, std::ostr
   const std::string& file = options.source.project_file;
   const bool fine = loaded.errors == 0 && loaded.warnings == 0;
   out << (fine ? options.texts(Text::nothing_wrong, file)
-               : options.texts(Text::problems_counted, file, loaded.errors, loaded.warnings))
+               : options.texts(
+                   Text::problems_counted, file,
+                   counted(loaded.errors, Text::one_error, Text::errors_counted, options.texts),
+                   counted(loaded.warnings, Text::one_warning, Text::warnings_counted,
+                           options.texts)))
       << "\n";
   return loaded.project ? exit_fine : exit_bad_input;
 }

@@ -34,11 +34,12 @@ std::size_t edit_distance(const std::string& a, const std::string& b) {
   return row[b.size()];
 }
 
-// The name nearest to `name`, empty where none is near.
-std::string nearest(const std::string& name, const std::set<std::string>& candidates) {
+// The name nearest to `name` within so many letters, empty where none is near.
+std::string nearest(const std::string& name, const std::set<std::string>& candidates,
+                    std::size_t letters) {
   if (name.size() > longest_shown) return {};
   std::string best;
-  std::size_t least = name.size() / 3 + 1;
+  std::size_t least = letters + 1;
   for (const std::string& candidate : candidates) {
     const std::size_t distance = edit_distance(name, candidate);
     if (distance < least) {
@@ -210,7 +211,9 @@ ObjectReader::~ObjectReader() {
       problems_->remark(path, std::string(texts(Text::ignored_field)));
       continue;
     }
-    const std::string near = nearest(name, asked_);
+    // A field that is there already was hardly meant by another that only resembles it.
+    std::string near = nearest(name, missing_, name.size() / 3);
+    if (near.empty()) near = nearest(name, asked_, 1);
     problems_->add(path, std::string(texts(Text::unknown_field)),
                    near.empty() ? texts(Text::one_of, fmt::format("{}", fmt::join(asked_, ", ")))
                                 : texts(Text::perhaps, near));
@@ -228,7 +231,10 @@ std::optional<ValueReader> ObjectReader::optional(const std::string& name) {
   if (rules_->asked != nullptr) rules_->asked->insert(with_any_entry(child_path(path_, name)));
   if (!is_object_) return std::nullopt;
   const auto found = object_->find(name);
-  if (found == object_->end()) return std::nullopt;
+  if (found == object_->end()) {
+    missing_.insert(name);
+    return std::nullopt;
+  }
   return ValueReader(*found, child_path(path_, name), *problems_, *rules_);
 }
 

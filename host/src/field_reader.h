@@ -151,6 +151,7 @@ private:
   Problems* problems_;
   const ReadingRules* rules_;
   std::set<std::string> asked_;
+  std::set<std::string> missing_;  // of those, what is not there and may have been meant
 };
 
 }  // namespace ostrel::host

@@ -2,9 +2,11 @@
 #include "json_text.h"
 
 #include "system_reason.h"
+#include "text_table.h"
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <cerrno>
@@ -127,20 +129,55 @@ private:
   std::vector<Level> levels_;
 };
 
+// What the parser says that it expected, and how that is told.
+constexpr std::array<std::pair<std::string_view, Text>, 6> expectations{
+    {{"expected '}'", Text::json_comma_or_brace},
+     {"expected ']'", Text::json_comma_or_bracket},
+     {"expected end of input", Text::json_nothing_more},
+     {"expected string literal", Text::json_name},
+     {"expected ':'", Text::json_colon},
+     {"or a literal", Text::json_value}}};
+
+Text expectation_of(std::string_view message) {
+  const auto* const found =
+      std::find_if(expectations.begin(), expectations.end(),
+                   [&](const auto& row) { return message.ends_with(row.first); });
+  return found == expectations.end() ? Text::valid_json : found->second;
+}
+
+constexpr std::string_view not_utf8 = "\xEF\xBF\xBD";  // stands for bytes that are none
+
+// Bytes from elsewhere as a terminal can show them, with `not_utf8` for what is no UTF-8.
+std::string showable(std::string_view bytes) {
+  const Json text = std::string(bytes);
+  return Json::parse(text.dump(-1, ' ', false, Json::error_handler_t::replace)).get<std::string>();
+}
+
 // Tells what a parser for trees would take badly or not notice.
 class Gatekeeper final : public PathFollower {
 public:
-  explicit Gatekeeper(Problems& problems) : problems_(problems) {}
+  Gatekeeper(std::string_view text, Problems& problems) : text_(text), problems_(problems) {}
 
-  bool parse_error(std::size_t, const std::string&,
+  bool parse_error(std::size_t position, const std::string& /*token*/,
                    const nlohmann::detail::exception& error) override {
-    // "[json.exception.parse_error.101] parse error at line 1, column 2: ..."
-    std::string message = error.what();
-    if (const std::size_t end = message.find("] "); end != std::string::npos) {
-      message.erase(0, end + 2);
+    constexpr int number_too_large = 406;
+    const Texts& texts = problems_.texts();
+    const std::string_view message = error.what();
+    const std::size_t last = std::min(std::max<std::size_t>(position, 1) - 1, text_.size());
+    const auto tell = [&](std::string found, Text allowed) {
+      problems_.add_at_line(line_of(last), std::move(found), std::string(texts(allowed)));
+      return false;
+    };
+    if (error.id == number_too_large) return tell(before(last), Text::json_number);
+    if (message.find("UTF-8") != std::string_view::npos) {
+      return tell(texts(Text::json_byte, last_high_byte(last)), Text::json_in_utf8);
     }
-    problems_.add("", message, std::string(problems_.texts()(Text::valid_json)));
-    return false;
+    if (last == text_.size()) return tell(std::string(texts(Text::json_end)), Text::json_the_rest);
+    const std::string found = before(last);
+    if (found.find(not_utf8) != std::string::npos) {
+      return tell(texts(Text::json_byte, last_high_byte(last)), Text::json_in_utf8);
+    }
+    return tell(found, expectation_of(message));
   }
 
 private:
@@ -159,7 +196,33 @@ private:
   }
   void at_open() override { seen_.emplace_back(); }
   void at_close() override { seen_.pop_back(); }
+  std::size_t line_of(std::size_t place) const {
+    const std::string_view lines = text_.substr(0, place);
+    return 1 + static_cast<std::size_t>(std::count(lines.begin(), lines.end(), '\n'));
+  }
+  // The end of the line up to a place, which is where reading stopped.
+  std::string before(std::size_t place) const {
+    constexpr std::size_t longest = 40;  // bytes
+    std::string_view line = text_.substr(0, place + 1);
+    while (line.ends_with('\n') || line.ends_with('\r'))
+      line.remove_suffix(1);
+    const std::size_t end = line.find_last_of('\n');
+    if (end != std::string_view::npos) line.remove_prefix(end + 1);
+    line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+    const bool cut = line.size() > longest;
+    if (cut) line.remove_prefix(line.size() - longest);
+    return (cut ? "…" : "") + fitted(showable(line), longest);
+  }
+  // The last byte beyond ASCII up to a place: the parser has gone one further.
+  unsigned last_high_byte(std::size_t place) const {
+    for (std::size_t i = std::min(place + 1, text_.size()); i-- > 0;) {
+      const auto byte = static_cast<unsigned char>(text_[i]);
+      if (byte >= 0x80) return byte;
+    }
+    return 0;
+  }
 
+  std::string_view text_;
   Problems& problems_;
   std::vector<std::set<std::string>> seen_;  // fields of each object that is open
 };
@@ -267,7 +330,7 @@ std::string quote_words_for_numbers(std::string_view text) {
 
 std::optional<Json> parse_json(std::string_view text, Problems& problems) {
   const std::size_t before = problems.errors().size();
-  Gatekeeper gatekeeper(problems);
+  Gatekeeper gatekeeper(text, problems);
   const bool sound = Json::sax_parse(text, &gatekeeper);
   if (!sound || problems.errors().size() != before) return std::nullopt;
   return Json::parse(text, nullptr, false);

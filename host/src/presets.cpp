@@ -3,10 +3,12 @@
 
 #include "embedded_files.h"
 #include "json_text.h"
+#include "preset_checks.h"
 
 #include <fmt/ranges.h>
 
 #include <algorithm>
+#include <cctype>
 #include <map>
 #include <set>
 #include <utility>
@@ -48,15 +50,17 @@ public:
     return made;
   }
 
-  std::vector<std::string> unconfirmed() const {
-    return {unconfirmed_.begin(), unconfirmed_.end()};
-  }
-
 private:
-  // What a number of the standard is worth: those that rest on nothing confirmed are gathered.
-  void note(const Json& set) {
-    if (is_text(field(set, "status"), "unconfirmed"))
-      unconfirmed_.insert(set.at("clause").get<std::string>());
+  // Where a number comes from and what it is worth; clauses that nobody has confirmed are gathered.
+  std::string source_of(const Json& set) {
+    const auto clause = set.at("clause").get<std::string>();
+    const Json& status = field(set, "status");
+    if (is_text(status, "unconfirmed")) {
+      unconfirmed_.insert(clause);
+      return clause + " (to be confirmed against the standard)";
+    }
+    if (!status.is_string() || is_text(status, "confirmed")) return clause;
+    return fmt::format("{} ({})", clause, status.get<std::string>());
   }
 
   bool applies(const std::string& check) const {
@@ -81,6 +85,7 @@ private:
   }
 
   Json combination(const Json& row, const Json& checks, bool seismic) {
+    unconfirmed_.clear();
     Json made = {{"comment", fmt::format("{}, {}", standard_.at("title").get<std::string>(),
                                          row.at("clause").get<std::string>())},
                  {"name", row.at("name")},
@@ -93,28 +98,44 @@ private:
       add_resistances(standard_.at("resistances").at(name.get<std::string>()), checks, resistances);
     if (!resistances.empty()) made["resistance_factors"] = std::move(resistances);
     if (seismic) made["seismic"] = true;
+    if (!unconfirmed_.empty()) made["to_be_confirmed"] = unconfirmed_;
     return made;
   }
 
   Json soil_factors(const std::string& name) {
     const Json& set = standard_.at("soil").at(name);
-    note(set);
-    Json factors = Json::object();
+    Json factors = {{"comment", fmt::format("{}: {}", name, source_of(set))}};
     for (const auto& [key, value] : set.items()) {
       if (value.is_number()) factors[key] = value;
     }
     return factors;
   }
 
+  // The same of a set of actions, with the factor of the load that its own is multiplied by.
+  std::string source_of_actions(const Json& set) {
+    const Json& times = field(field(set, "variable"), "times");
+    const std::string source = source_of(set);
+    if (!times.is_string()) return source;
+    return fmt::format("{}, variable loads times {}", source, times.get<std::string>());
+  }
+
   // One set for all actions, or one for those of the structure and one for those of the ground.
   Json actions(const Json& names) {
     const Json& sets = standard_.at("actions");
     const bool two = names.is_object();
-    const Json& structural = sets.at((two ? names.at("structural") : names).get<std::string>());
-    const Json& geotechnical = sets.at((two ? names.at("geotechnical") : names).get<std::string>());
-    note(structural);
-    note(geotechnical);
-    Json actions = {{"self_weight", structural.at("permanent")},
+    const auto of_structure = (two ? names.at("structural") : names).get<std::string>();
+    const auto of_ground = (two ? names.at("geotechnical") : names).get<std::string>();
+    const Json& structural = sets.at(of_structure);
+    const Json& geotechnical = sets.at(of_ground);
+    Json comment = fmt::format("{}: {}", of_structure, source_of_actions(structural));
+    if (two) {
+      comment = {fmt::format("self-weight, loads on the wall alone by {}: {}", of_structure,
+                             source_of_actions(structural)),
+                 fmt::format("earth, water, loads on the ground by {}: {}", of_ground,
+                             source_of_actions(geotechnical))};
+    }
+    Json actions = {{"comment", std::move(comment)},
+                    {"self_weight", structural.at("permanent")},
                     {"earth_pressure", geotechnical.at("permanent")},
                     {"water_pressure", geotechnical.at("permanent")},
                     {"loads", Json::object()}};
@@ -123,10 +144,10 @@ private:
     for (const Json& load : loads) {
       const Json& name = field(load, "name");
       const Json& on_ground = field(load, "on_ground");
-      const bool of_ground = on_ground.is_array() && !on_ground.empty();
+      const bool on_the_ground = on_ground.is_array() && !on_ground.empty();
       if (!name.is_string()) continue;
       actions["loads"][name.get<std::string>()] =
-          load_action(load, of_ground ? geotechnical : structural);
+          load_action(load, on_the_ground ? geotechnical : structural);
     }
     return actions;
   }
@@ -156,7 +177,7 @@ private:
       const bool is_read = reader == readers.end()
                         || std::find(checks.begin(), checks.end(), reader->second) != checks.end();
       if (!is_read) continue;
-      note(row);
+      factors["comment"].push_back(fmt::format("{}: {}", name, source_of(row)));
       factors[name] = row.at(column(row));
     }
   }
@@ -179,16 +200,54 @@ private:
 
   const Json& project_;
   const Json& standard_;
-  std::set<std::string> unconfirmed_;
+  std::set<std::string> unconfirmed_;  // clauses of the combination in hand
 };
 
-std::set<std::string> names_of(const Json& combinations) {
-  std::set<std::string> names;
-  for (const Json& combination : combinations) {
-    const Json& name = field(combination, "name");
-    if (name.is_string()) names.insert(name.get<std::string>());
+// The name without capitals, blanks and signs, by which two names look the same.
+std::string plain(const std::string& name) {
+  std::string letters;
+  for (const char c : name) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte >= 0x80 || std::isalnum(byte) != 0) letters += static_cast<char>(std::tolower(byte));
   }
-  return names;
+  return letters;
+}
+
+// The combinations of the file: which of the standard they take the place of.
+class OwnCombinations {
+public:
+  explicit OwnCombinations(const Json& combinations) {
+    for (std::size_t i = 0; i < combinations.size(); ++i) {
+      const Json& name = field(combinations[i], "name");
+      if (!name.is_string()) continue;
+      names_.insert(name.get<std::string>());
+      by_look_.emplace(plain(name.get<std::string>()), i);
+    }
+  }
+  bool replace(const std::string& name) const { return names_.contains(name); }
+  /// Tells a name that nearly takes the place of another.
+  void compare(const std::string& name, Problems& problems) const {
+    const auto found = by_look_.find(plain(name));
+    if (found == by_look_.end()) return;
+    problems.remark(child_path(child_path("combinations", found->second), "name"),
+                    problems.texts()(Text::near_standard_name, name));
+  }
+
+private:
+  std::set<std::string> names_;
+  std::map<std::string, std::size_t> by_look_;
+};
+
+// Tells that circles which the standard wants are left out, where the file searches none.
+void remark_upon_left_out_circles(const Json& project, const Json& standard, Problems& problems) {
+  if (field(project, "slope") != Json(false)) return;
+  for (const Json& row : standard.at("combinations")) {
+    for (const Json& check : row.at("checks")) {
+      if (!is_text(check, "global_stability")) continue;
+      problems.remark("slope", std::string(problems.texts()(Text::circles_of_standard_left_out)));
+      return;
+    }
+  }
 }
 
 }  // namespace
@@ -198,15 +257,17 @@ const Json& built_in_presets() {
   return presets;
 }
 
-std::optional<Json> read_presets(const std::string& file, Problems& problems) {
-  const auto text = read_file(file, problems);
-  if (!text) return std::nullopt;
-  std::optional<Json> presets = parse_json(*text, problems);
+std::optional<Json> read_presets(std::string_view text, Problems& problems) {
+  std::optional<Json> presets = parse_json(text, problems);
   if (!presets) return std::nullopt;
-  if (field(*presets, "standards").is_object()) return presets;
-  problems.add("", std::string(problems.texts()(Text::missing)),
-               std::string(problems.texts()(Text::a_file_of_presets)));
-  return std::nullopt;
+  if (!field(*presets, "standards").is_object()) {
+    problems.add("", std::string(problems.texts()(Text::missing)),
+                 std::string(problems.texts()(Text::a_file_of_presets)));
+    return std::nullopt;
+  }
+  check_presets(*presets, problems);
+  if (!problems.empty()) return std::nullopt;
+  return presets;
 }
 
 Expansion expand_presets(Json& project, const Json& presets, Problems& problems) {
@@ -225,23 +286,24 @@ Expansion expand_presets(Json& project, const Json& presets, Problems& problems)
   }
   if (!project.contains("combinations")) project["combinations"] = Json::array();
   if (!project["combinations"].is_array()) return expansion;
-  const std::set<std::string> own = names_of(project["combinations"]);
+  const OwnCombinations own(project["combinations"]);
   Expander expander(project, *found);
   std::vector<Json> made;
   try {
     made = expander.combinations();
-  } catch (const Json::exception& error) {
-    problems.add("standard", error.what(), std::string(problems.texts()(Text::a_file_of_presets)));
+    remark_upon_left_out_circles(project, *found, problems);
+  } catch (const Json::exception&) {
+    problems.add("standard", wanted.dump(), std::string(problems.texts()(Text::a_file_of_presets)));
     return expansion;
   }
   for (Json& combination : made) {
     const std::string name = combination.at("name").get<std::string>();
-    if (own.contains(name)) continue;
+    if (own.replace(name)) continue;
+    own.compare(name, problems);
     expansion.added.push_back(name);
     project["combinations"].push_back(std::move(combination));
   }
   expansion.standard = wanted.get<std::string>();
-  expansion.unconfirmed = expander.unconfirmed();
   project.erase("standard");
   return expansion;
 }

@@ -198,6 +198,7 @@ struct LoadInput {
 
 struct ActionInput {
   bool active = false;
+  bool named = false;  ///< the file speaks of it, if only to switch it off
   double favourable = 1.0;
   double unfavourable = 1.0;
 };
@@ -218,6 +219,7 @@ struct CombinationInput {
   double slope_factor = 1.0;
   double topographic_factor = 1.0;
   std::vector<pCheckTypes> checks;
+  std::vector<std::string> to_be_confirmed;  ///< clauses of factors
 };
 
 struct SpringIntervalInput {
@@ -303,8 +305,8 @@ struct Project {
   std::vector<AnchorInput> anchors;
   std::vector<LoadInput> loads;
   std::optional<SeismicSiteInput> seismic;
-  std::string standard;            ///< of which combinations were added; empty for none
-  std::vector<std::string> notes;  ///< what a user of that standard shall know
+  std::string standard;              ///< of which combinations were added; empty for none
+  std::vector<std::string> notes;    ///< what a user of that standard shall know
   std::vector<OddPlace> odd_places;  ///< what a check of the file warns of
   std::vector<CombinationInput> combinations;
   std::vector<SpringIntervalInput> spring_intervals;

@@ -67,6 +67,7 @@ std::size_t number_of(const Names& loads) {
 // One number for both, or {"favourable": ..., "unfavourable": ...}; null switches the action off.
 ActionInput read_action(const ValueReader& value) {
   ActionInput action;
+  action.named = true;
   action.active = !value.is_null();
   if (value.is_null()) return action;
   if (!value.json().is_object()) {
@@ -91,9 +92,7 @@ std::array<double, 2> read_factor_pair(const ValueReader& value) {
 }
 
 void read_soil_factors(const ValueReader& value, CombinationInput& combination) {
-  static constexpr std::array<const char*, 6> names{"friction_angle", "wall_friction_angle",
-                                                    "cohesion",       "undrained_strength",
-                                                    "unit_weight",    "permeability"};
+  const std::vector<std::string>& names = soil_factor_names();
   ObjectReader fields = value.object();
   for (std::size_t i = 0; i < names.size(); ++i) {
     if (const auto pair = fields.optional(names[i])) {
@@ -103,9 +102,7 @@ void read_soil_factors(const ValueReader& value, CombinationInput& combination) 
 }
 
 void read_resistance_factors(const ValueReader& value, CombinationInput& combination) {
-  static constexpr std::array<const char*, 8> names{
-      "soil_in_front",      "global_stability", "pile_base", "pile_shaft_compression",
-      "pile_shaft_tension", "anchors",          "piping",    "uplift"};
+  const std::vector<std::string>& names = resistance_factor_names();
   ObjectReader fields = value.object();
   for (std::size_t i = 0; i < names.size(); ++i) {
     if (const auto entry = fields.optional(names[i])) {
@@ -170,16 +167,40 @@ void read_actions(const ValueReader& value, const Names& loads, CombinationInput
 }
 
 void read_checks(const ValueReader& value, CombinationInput& combination) {
-  static const std::vector<std::string> names{
-      "rigid_motion",    "vertical_bearing", "anchor_pull_out",   "global_stability",
-      "anchor_strength", "wall_strength",    "cap_beam_strength", "piping",
-      "uplift",          "displacements"};
   for (const ValueReader& entry : value.items()) {
-    combination.checks.push_back(static_cast<pCheckTypes>(entry.choice(names)));
+    combination.checks.push_back(static_cast<pCheckTypes>(entry.choice(verification_names())));
   }
 }
 
 }  // namespace
+
+const std::vector<std::string>& soil_factor_names() {
+  static const std::vector<std::string> names{"friction_angle", "wall_friction_angle",
+                                              "cohesion",       "undrained_strength",
+                                              "unit_weight",    "permeability"};
+  return names;
+}
+
+const std::vector<std::string>& resistance_factor_names() {
+  static const std::vector<std::string> names{
+      "soil_in_front",      "global_stability", "pile_base", "pile_shaft_compression",
+      "pile_shaft_tension", "anchors",          "piping",    "uplift"};
+  return names;
+}
+
+const std::vector<std::string>& combination_types() {
+  static const std::vector<std::string> names{"ultimate", "seismic",         "rare",
+                                              "frequent", "quasi_permanent", "accidental"};
+  return names;
+}
+
+const std::vector<std::string>& verification_names() {
+  static const std::vector<std::string> names{
+      "rigid_motion",    "vertical_bearing", "anchor_pull_out",   "global_stability",
+      "anchor_strength", "wall_strength",    "cap_beam_strength", "piping",
+      "uplift",          "displacements"};
+  return names;
+}
 
 LoadInput read_load(const ValueReader& value) {
   ObjectReader fields = value.object();
@@ -206,8 +227,7 @@ CombinationInput read_combination(const ValueReader& value, const Names& loads,
   combination.loads.resize(number_of(loads));
   if (const auto name = fields.required("name")) combination.name = name->text_not_empty();
   if (const auto type = fields.required("type")) {
-    combination.kind = static_cast<pCombinationTypes>(
-        type->choice({"ultimate", "seismic", "rare", "frequent", "quasi_permanent", "accidental"}));
+    combination.kind = static_cast<pCombinationTypes>(type->choice(combination_types()));
   }
   if (const auto part = fields.optional("soil_factors")) read_soil_factors(*part, combination);
   if (const auto part = fields.optional("resistance_factors")) {
@@ -216,6 +236,8 @@ CombinationInput read_combination(const ValueReader& value, const Names& loads,
   if (const auto part = fields.optional("actions")) read_actions(*part, loads, combination);
   if (const auto part = fields.unless_null("seismic")) read_seismic(*part, site, combination);
   if (const auto part = fields.optional("checks")) read_checks(*part, combination);
+  for (const ValueReader& entry : fields.items_or_none("to_be_confirmed"))
+    combination.to_be_confirmed.push_back(entry.text_not_empty());
   return combination;
 }
 

@@ -4,9 +4,13 @@
 // told once only.
 #include "project_checks.h"
 
+#include "action_checks.h"
 #include "ground_checks.h"
 #include "json_text.h"
+#include "layout_checks.h"
 #include "questionable_circles.h"
+#include "section_checks.h"
+#include "signing_checks.h"
 #include "verification_checks.h"
 
 #include <algorithm>
@@ -75,10 +79,6 @@ void check_soils(const Project& project, Problems& problems) {
   for (std::size_t i = 0; i < project.soils.size(); ++i) {
     const SoilInput& soil = project.soils[i];
     const std::string path = child_path("soils", i);
-    if (soil.friction_angle_deg > 50.0) {
-      problems.remark(child_path(path, "friction_angle_deg"),
-                      texts(Text::high_friction, soil.friction_angle_deg));
-    }
     if (soil.wall_friction_angle_deg > soil.friction_angle_deg) {
       problems.remark(child_path(path, "wall_friction_angle_deg"),
                       std::string(texts(Text::wall_rougher_than_soil)));
@@ -160,14 +160,19 @@ void check_project(const Project& project, Problems& problems) {
   check_levels(project, problems);
   check_water(project, problems);
   check_spring_intervals(project, problems);
+  check_layout(project, problems);
+  check_sections(project, problems);
   check_seismic_site(project, problems);
+  check_actions(project, problems);
   for (std::size_t i = 0; i < project.combinations.size(); ++i) {
     check_combination(project, project.combinations[i], child_path("combinations", i), problems);
   }
   // The ground is looked at along the wall, which needs sound numbers throughout.
   if (problems.empty()) {
     check_ground(project, problems);
+    check_bulbs(project, problems);
     remark_upon_circles(project, problems);
+    check_before_signing(project, problems);
   }
 }
 

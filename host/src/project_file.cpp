@@ -7,9 +7,11 @@
 #include "project_parts.h"
 #include "schema_validation.h"
 #include "seismic_coefficients.h"
+#include "unusual_numbers.h"
 
 #include <fmt/ranges.h>
 
+#include <set>
 #include <utility>
 
 namespace ostrel::host {
@@ -96,15 +98,18 @@ Names read_named_parts(ObjectReader& fields, Project& project) {
   return loads;
 }
 
+// A standard that was refused would have added combinations.
 void read_combinations(ObjectReader& fields, const Names& loads, Project& project) {
-  const auto part = fields.required("combinations");
+  const bool without_standard = fields.problems().has_error_at("standard");
+  const auto part =
+      without_standard ? fields.optional("combinations") : fields.required("combinations");
   if (!part) return;
   const std::vector<ValueReader> entries = part->items();
   for (const ValueReader& entry : entries) {
     project.combinations.push_back(read_combination(entry, loads, project.seismic));
   }
   names_of(project.combinations, entries);
-  if (part->json().is_array() && entries.empty()) {
+  if (part->json().is_array() && entries.empty() && !without_standard) {
     part->refuse(std::string(part->problems().texts()(Text::a_list_not_empty)));
   }
 }
@@ -142,11 +147,16 @@ std::vector<std::string> notes_of(const Expansion& expansion, const Project& pro
                                   const Texts& texts) {
   std::vector<std::string> notes;
   if (project.seismic) notes.push_back(seismic_line(*project.seismic, texts));
-  if (expansion.standard.empty()) return notes;
-  notes.push_back(texts(Text::standard_expanded, expansion.standard, expansion.added.size()));
-  if (!expansion.unconfirmed.empty()) {
-    notes.push_back(texts(Text::standard_unconfirmed,
-                          fmt::format("{}", fmt::join(expansion.unconfirmed, "; "))));
+  if (!expansion.standard.empty()) {
+    const std::size_t added = expansion.added.size();
+    notes.push_back(texts(added == 1 ? Text::standard_expanded_by_one : Text::standard_expanded,
+                          expansion.standard, added));
+  }
+  std::set<std::string> clauses;
+  for (const CombinationInput& combination : project.combinations)
+    clauses.insert(combination.to_be_confirmed.begin(), combination.to_be_confirmed.end());
+  if (!clauses.empty()) {
+    notes.push_back(texts(Text::standard_unconfirmed, fmt::format("{}", fmt::join(clauses, "; "))));
   }
   return notes;
 }
@@ -174,10 +184,7 @@ std::size_t position_of(const ValueReader& value, const Names& names) {
   const auto found =
       value.json().is_string() ? names.find(value.json().get<std::string>()) : names.end();
   if (found != names.end()) return found->second;
-  std::vector<std::string> known;
-  for (const auto& [name, position] : names)
-    known.push_back(name);
-  value.refuse(value.problems().texts()(Text::one_of, quoted_list(known)));
+  value.refuse(known_names(names, value.problems().texts()));
   return 0;
 }
 
@@ -193,8 +200,14 @@ std::optional<Project> read_project(std::string_view text, Problems& problems,
     ObjectReader fields = ValueReader(*json, "", problems, rules).object();
     project = read_fields(fields);
   }
+  for (std::size_t i = 0; i < expansion.added.size(); ++i) {
+    const std::size_t own = (*json)["combinations"].size() - expansion.added.size();
+    problems.rename(child_path("combinations", own + i), "standard",
+                    fmt::format("standard ({})", expansion.added[i]));
+  }
   check_schema(*json, problems);
   check_project(project, problems);
+  remark_upon_unusual_numbers(*json, problems);
   if (!problems.empty()) return std::nullopt;
   project.standard = expansion.standard;
   project.notes = notes_of(expansion, project, problems.texts());

@@ -80,6 +80,9 @@ std::vector<SoilInput> read_soils(const ValueReader& value) {
   std::vector<SoilInput> soils;
   for (const ValueReader& entry : value.items())
     soils.push_back(read_soil(entry));
+  if (value.json().is_array() && soils.empty()) {
+    value.refuse(std::string(value.problems().texts()(Text::a_list_not_empty)));
+  }
   return soils;
 }
 

@@ -23,19 +23,28 @@ std::optional<nlohmann::json> load_presets(const ProjectSource& source, const Te
                                            std::ostream& err) {
   if (source.presets_file.empty()) return built_in_presets();
   Problems problems(texts);
-  std::optional<nlohmann::json> presets = read_presets(source.presets_file, problems);
-  err << problems.report(source.presets_file, "");
+  const std::optional<std::string> text = read_file(source.presets_file, problems);
+  auto presets = text ? read_presets(*text, problems) : std::nullopt;
+  err << problems.report(source.presets_file, text ? *text : "");
   return presets;
+}
+
+// The same, with the comment of every object before its other fields.
+OrderedJson with_comments_first(const nlohmann::json& value) {
+  if (!value.is_object()) return OrderedJson::parse(value.dump());
+  OrderedJson ordered = OrderedJson::object();
+  if (value.contains("comment")) ordered["comment"] = with_comments_first(value.at("comment"));
+  for (const auto& [name, entry] : value.items())
+    ordered[name] = with_comments_first(entry);
+  return ordered;
 }
 
 // A combination as a person writes it.
 OrderedJson in_reading_order(const nlohmann::json& combination) {
   OrderedJson ordered;
-  for (const char* name : {"name", "type", "comment", "soil_factors", "resistance_factors",
-                           "seismic", "actions", "checks"}) {
-    if (combination.contains(name)) {
-      ordered[name] = OrderedJson::parse(combination.at(name).dump());
-    }
+  for (const char* name : {"name", "type", "comment", "to_be_confirmed", "soil_factors",
+                           "resistance_factors", "seismic", "actions", "checks"}) {
+    if (combination.contains(name)) ordered[name] = with_comments_first(combination.at(name));
   }
   return ordered;
 }
@@ -52,7 +61,7 @@ std::vector<OddPlace> odd_places(const std::string& text, const Problems& told,
   const std::vector<Remark>& english = (in_italian ? other : told).remarks();
   std::vector<OddPlace> places;
   for (std::size_t i = 0; i < std::min(italian.size(), english.size()); ++i)
-    places.push_back({english[i].path, italian[i].message, english[i].message});
+    places.push_back({told.shown(english[i].path), italian[i].message, english[i].message});
   return places;
 }
 

@@ -33,6 +33,14 @@ std::optional<SlopeInput> read_slope(const ValueReader& value, const Project& pr
 /// Slip circles chosen from the geometry.
 SlopeInput default_slope(const Project& project);
 
+/// @name Names in combinations, in the order of the library's numbers
+///@{
+const std::vector<std::string>& soil_factor_names();
+const std::vector<std::string>& resistance_factor_names();
+const std::vector<std::string>& combination_types();
+const std::vector<std::string>& verification_names();
+///@}
+
 /// Tells that another entry before this one has the same name.
 void refuse_repeated_name(const ValueReader& entry, const std::string& name);
 

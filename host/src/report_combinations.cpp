@@ -160,14 +160,15 @@ OrderedJson soil_factor_table(const Project& project) {
 }
 
 OrderedJson resistance_factor_table(const Project& project) {
-  static const std::array<Both, 8> names{{{"Terreno a valle", "Soil in front"},
-                                          {"Stabilità globale", "Global stability"},
-                                          {"Base dei pali", "Pile base"},
-                                          {"Fusto, compressione", "Pile shaft, compression"},
-                                          {"Fusto, trazione", "Pile shaft, tension"},
-                                          {"Tiranti", "Anchors"},
-                                          {"Sifonamento", "Piping"},
-                                          {"Sollevamento", "Uplift"}}};
+  static const std::array<Both, 8> names{
+      {{"Terreno a valle (nessuna molla lo legge)", "Soil in front (no spring reads it)"},
+       {"Stabilità globale", "Global stability"},
+       {"Base dei pali", "Pile base"},
+       {"Fusto, compressione", "Pile shaft, compression"},
+       {"Fusto, trazione", "Pile shaft, tension"},
+       {"Tiranti", "Anchors"},
+       {"Sifonamento", "Piping"},
+       {"Sollevamento", "Uplift"}}};
   ReportTable table("resistance-factors",
                     {"Coefficienti sulle resistenze", "Factors on resistances"},
                     by_combination(project, {"Resistenza", "Resistance"}, given));

@@ -42,6 +42,17 @@ enum class Text : std::int32_t {
   a_readable_file,
   at_most_megabytes,  // count
   valid_json,
+  json_byte,  // the byte as a number
+  json_in_utf8,
+  json_end,
+  json_the_rest,
+  json_comma_or_brace,
+  json_comma_or_bracket,
+  json_nothing_more,
+  json_name,
+  json_colon,
+  json_value,
+  json_number,
   once,
   this_field,
   perhaps,  // name of a field
@@ -94,7 +105,6 @@ enum class Text : std::int32_t {
   needs_water,
   needs_bearing,
   piles_overlap,
-  high_friction,
   wall_rougher_than_soil,
   saturated_lighter,
   soil_not_used,
@@ -106,6 +116,39 @@ enum class Text : std::int32_t {
   springs_missing,
   seismic_at_rest,
   shaken_not_seismic,
+  // Numbers, sections and places that do not fit
+  unusual_number,   // number, range from, to
+  cover_that_fits,  // least, below, depth of the section
+  bars_that_fit,    // bars, most
+  load_never_acts,
+  loads_left_out,           // names
+  favourable_exceeds,       // favourable, unfavourable
+  nodes_for_springs,        // half the embedded length
+  anchor_below_excavation,  // level
+  support_holds_nothing,
+  intervals_overlap,   // from, to, path of the other
+  load_beyond_ground,  // end of the load, of the ground
+  bulb_outside,        // x, level
+  bulb_in_ground,
+  no_room_for_circles,
+  wider_ground,
+  // Before you sign
+  see_before_signing,  // remark
+  wood_hardly_shakes,
+  rankine_too_steep,  // angle
+  bearing_limit,
+  springs_not_shaken,  // combinations
+  kv_favourable,       // combinations
+  passive_too_high,    // friction of the wall, of the soil
+  circles_and_water,
+  circles_and_earthquake,  // combinations
+  rigid_with_two_levels,   // combinations
+  rigid_with_few_anchors,  // combinations
+  beam_without_anchors,    // combinations
+  active_on_bulb,
+  front_factor_not_read,   // combinations
+  uplift_factor_not_read,  // combinations
+  bearing_by_hand,         // combinations
   pile_row_line,
   diaphragm_line,
   geometry_line,
@@ -206,8 +249,11 @@ enum class Text : std::int32_t {
   seismic_line_en1998,
   needs_seismic_site,
   needs_displacement,
-  share_of_the_wall,     // displacement
-  standard_expanded,     // name, number of combinations
+  share_of_the_wall,         // displacement
+  standard_expanded,         // name, number of combinations
+  standard_expanded_by_one,  // name, 1
+  near_standard_name,        // name
+  circles_of_standard_left_out,
   standard_unconfirmed,  // clauses
   a_file_of_presets,
   // Commands about project files
@@ -222,7 +268,11 @@ enum class Text : std::int32_t {
   file_exists,       // file
   file_written,      // file
   nothing_wrong,     // file
-  problems_counted,  // file, errors, warnings
+  problems_counted,  // file, errors, warnings, in words
+  one_error,
+  errors_counted,  // number
+  one_warning,
+  warnings_counted,  // number
   // Reasons of the system
   no_such_file,
   permission_denied,

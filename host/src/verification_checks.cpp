@@ -65,6 +65,12 @@ private:
   void check_global_stability() {
     if (!project_.slope) refuse("global_stability", Text::needs_slope);
     want_factor(factorGlobalStability, "global_stability", "global_stability");
+    const bool no_centres = project_.slope && project_.slope->centres.empty();
+    if (no_centres && problems_.empty()) {
+      problems_.add(project_.ground.by_levels ? "ground.retained_width_m" : "ground",
+                    std::string(texts_(Text::no_room_for_circles)),
+                    std::string(texts_(Text::wider_ground)));
+    }
   }
 
   // Without a permeability the head at the foot has no value.

@@ -129,6 +129,15 @@ TEST_F(FieldReader, TellsAnUnknownFieldAndWhatMayHaveBeenMeant) {
   EXPECT_EQ(first_error(), "here.lenght_m: an unknown field | perhaps length_m");
 }
 
+TEST_F(FieldReader, DoesNotTakeAFieldForOneThatIsThere) {
+  {
+    ObjectReader fields = value({{"value_kN", 3}, {"value_kPa", 3}}).object();
+    fields.number_or("value_kPa", 1.0);
+    fields.number_or("width_m", 1.0);
+  }
+  EXPECT_EQ(first_error(), "here.value_kN: an unknown field | one of: value_kPa, width_m");
+}
+
 TEST_F(FieldReader, TellsWhichFieldsThereAreWhereNoneIsNear) {
   {
     ObjectReader fields = value({{"q", 3}}).object();

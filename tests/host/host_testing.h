@@ -16,6 +16,7 @@
 #include <iterator>
 #include <optional>
 #include <ostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -37,7 +38,7 @@ inline nlohmann::json sound_project() {
                "concrete": {"cube_strength_MPa": 30}, "steel": {"yield_strength_MPa": 450}}},
     "excavation_depth_m": 4,
     "soils": [{"name": "sand", "unit_weight_kN_m3": 18, "saturated_unit_weight_kN_m3": 20,
-               "friction_angle_deg": 32, "wall_friction_angle_deg": 20, "E_MPa": 30}],
+               "friction_angle_deg": 32, "wall_friction_angle_deg": 10, "E_MPa": 30}],
     "ground": {"retained_width_m": 40, "excavated_width_m": 30, "bottom_level_m": -30,
                "layers": [{"soil": "sand", "top_level_m": 0}]},
     "loads": [{"name": "Q", "on_ground": [{"type": "uniform", "value_kPa": 10}]}],
@@ -111,6 +112,16 @@ inline Project project_of(const nlohmann::json& json) {
     ADD_FAILURE() << problem.path << ": " << problem.found << "; " << problem.allowed;
   }
   return outcome.project.value_or(Project{});
+}
+
+/// The lines of a text that do not hold some words.
+inline std::vector<std::string> lines_without(const std::string& text, const std::string& words) {
+  std::istringstream stream(text);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(stream, line);) {
+    if (line.find(words) == std::string::npos) lines.push_back(line);
+  }
+  return lines;
 }
 
 /// The contents of a file, empty for none.

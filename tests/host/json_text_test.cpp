@@ -12,6 +12,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::Not;
 using ::testing::Pair;
 using ::testing::SizeIs;
 
@@ -52,8 +53,57 @@ TEST(ParsedJson, TellsWhereTheTextBreaks) {
     Problems problems = english();
     EXPECT_FALSE(parse_json(text, problems).has_value()) << text;
     ASSERT_THAT(problems.errors(), SizeIs(1)) << text;
-    EXPECT_EQ(problems.errors()[0].allowed, "valid JSON");
-    EXPECT_THAT(problems.errors()[0].found, HasSubstr("parse error at line 1"));
+    EXPECT_EQ(problems.errors()[0].line, 1u) << text;
+  }
+}
+
+struct BrokenText {
+  const char* text;
+  std::size_t line;
+  const char* found;
+  const char* allowed;
+};
+
+TEST(ParsedJson, TellsTheLineWhatStandsThereAndWhatMay) {
+  const std::vector<BrokenText> texts{
+      {"{\n\"a\": 1,\n}", 3, "}", "the name of a field in double quotes"},
+      {"[1,\n2,\n]", 3, "]", "a value"},
+      {"{\"a\":\n 'x'}", 2, "'", "valid JSON"},
+      {"{\"a\" 1}", 1, "{\"a\" 1", "a colon"},
+      {"{\"a\": 1\n\"b\": 2}", 2, "\"b\"", "a comma or }"},
+      {"[1\n2]", 2, "2", "a comma or ]"},
+      {"{}\n\n{}", 3, "{", "nothing behind"},
+      {"{\"a\": [1,\n", 2, "the end of the file", "still open"},
+      {"{\"a\":\n\n1e999}", 3, "1e999", "1.8e308"},
+      {"{\n\"a\": \"Citt\xe0\"}", 2, "0xE0", "UTF-8"},
+      {"{\n\"a\": \xe0}", 2, "0xE0", "UTF-8"},
+      {"\xff\xfe{", 1, "0xFF", "UTF-8"},
+      {"{\n\"a\": \"b\nc\"}", 2, "b", "valid JSON"},
+  };
+  for (const BrokenText& broken : texts) {
+    Problems problems = english();
+    EXPECT_FALSE(parse_json(broken.text, problems).has_value()) << broken.text;
+    ASSERT_THAT(problems.errors(), SizeIs(1)) << broken.text;
+    const Problem& problem = problems.errors()[0];
+    EXPECT_EQ(problem.line, broken.line) << broken.text;
+    EXPECT_THAT(problem.found, HasSubstr(broken.found)) << broken.text;
+    EXPECT_THAT(problem.allowed, HasSubstr(broken.allowed)) << broken.text;
+  }
+}
+
+TEST(ParsedJson, IsToldAboutInTheLanguageOfTheProgram) {
+  Problems problems{Texts(Language::italian)};
+  EXPECT_FALSE(parse_json("{\n\"a\": 1,\n}", problems).has_value());
+  EXPECT_THAT(problems.report("p.json", ""),
+              HasSubstr("p.json:3: trovato }; ammesso JSON valido: il nome di un campo"));
+}
+
+// 0xE0 is "à" in Latin-1, and begins a character of three bytes in UTF-8.
+TEST(ParsedJson, SendsNoBytesToTheTerminalThatItCannotShow) {
+  for (const char* text : {"\"\xe0\"", "[\xe0]", "{\"a\": x\xe0}"}) {
+    Problems problems = english();
+    EXPECT_FALSE(parse_json(text, problems).has_value());
+    EXPECT_THAT(problems.report("p.json", text), Not(HasSubstr("\xe0")));
   }
 }
 

@@ -57,6 +57,12 @@ Json combination(const Json& project, const std::string& name) {
   return Json::object();
 }
 
+// The factors of an object without the comment on their clauses.
+Json numbers(Json factors) {
+  factors.erase("comment");
+  return factors;
+}
+
 std::vector<std::string> names(const Json& project) {
   std::vector<std::string> names;
   for (const Json& entry : project.at("combinations"))
@@ -70,9 +76,35 @@ TEST(Presets, LeaveAProjectWithoutStandardAlone) {
 
 TEST(Presets, TellAStandardThatTheyDoNotHold) {
   const ReadingOutcome outcome = read(by("NTC1988"));
-  ASSERT_THAT(outcome.errors, Not(IsEmpty()));
+  ASSERT_THAT(outcome.errors, SizeIs(1));
   EXPECT_EQ(outcome.errors[0].path, "standard");
   EXPECT_THAT(outcome.errors[0].allowed, HasSubstr("\"NTC2008\""));
+}
+
+TEST(Presets, TellNothingElseOfTheCombinationsThatAWrongStandardLeavesOut) {
+  Json project = by("NTC1988");
+  project["combinations"] = Json::array();
+  EXPECT_THAT(read(project).errors, ElementsAre(Field(&Problem::path, "standard")));
+}
+
+TEST(Presets, RemarkUponANameThatIsNearlyTheirs) {
+  for (const char* name : {"SLS Rare", "sls-rare"}) {
+    Json project = with("/combinations/0/name", name);
+    project["standard"] = "NTC2008";
+    const ReadingOutcome outcome = read(project);
+    EXPECT_THAT(outcome.remarks, ElementsAre(Field(&Remark::path, "combinations[0].name"))) << name;
+    ASSERT_TRUE(outcome.project.has_value());
+    EXPECT_EQ(outcome.project->combinations.back().name, "SLS quasi-permanent");
+  }
+  Json same = with("/combinations/0/name", "SLS rare");
+  same["standard"] = "NTC2008";
+  EXPECT_THAT(read(same).remarks, IsEmpty());
+}
+
+TEST(Presets, RemarkUponCirclesThatTheFileLeavesOut) {
+  Json project = by("NTC2008");
+  project["slope"] = false;
+  EXPECT_THAT(read(project).remarks, ElementsAre(Field(&Remark::path, "slope")));
 }
 
 // NTC 2008: A1 1.0/1.3 and 0/1.5, M1 all 1, table 6.5.I R1 1.0.
@@ -84,7 +116,7 @@ TEST(PresetsNtc2008, MultiplyTheActionsForTheStructure) {
   EXPECT_EQ(found["actions"]["water_pressure"], found["actions"]["self_weight"]);
   EXPECT_EQ(found["actions"]["loads"]["Q"], Json({{"favourable", 0.0}, {"unfavourable", 1.5}}));
   EXPECT_EQ(found["soil_factors"]["friction_angle"], 1.0);
-  EXPECT_EQ(found["resistance_factors"], Json({{"soil_in_front", 1.0}}));
+  EXPECT_EQ(numbers(found["resistance_factors"]), Json({{"soil_in_front", 1.0}}));
   EXPECT_EQ(found["checks"], Json({"wall_strength"}));
 }
 
@@ -92,12 +124,12 @@ TEST(PresetsNtc2008, MultiplyTheActionsForTheStructure) {
 TEST(PresetsNtc2008, DivideTheStrengthOfTheGroundForItsVerifications) {
   const Json project = expanded(by("NTC2008"));
   const Json circles = combination(project, "ULS A2+M2+R2, global stability");
-  EXPECT_EQ(circles["resistance_factors"], Json({{"global_stability", 1.1}}));
-  EXPECT_EQ(circles["soil_factors"], Json({{"friction_angle", 1.25},
-                                           {"wall_friction_angle", 1.25},
-                                           {"cohesion", 1.25},
-                                           {"undrained_strength", 1.4},
-                                           {"unit_weight", 1.0}}));
+  EXPECT_EQ(numbers(circles["resistance_factors"]), Json({{"global_stability", 1.1}}));
+  EXPECT_EQ(numbers(circles["soil_factors"]), Json({{"friction_angle", 1.25},
+                                                    {"wall_friction_angle", 1.25},
+                                                    {"cohesion", 1.25},
+                                                    {"undrained_strength", 1.4},
+                                                    {"unit_weight", 1.0}}));
   EXPECT_EQ(circles["actions"]["loads"]["Q"], Json({{"favourable", 0.0}, {"unfavourable", 1.3}}));
   EXPECT_EQ(combination(project, "ULS A2+M2+R1")["checks"], Json({"rigid_motion"}));
 }
@@ -118,7 +150,7 @@ TEST(PresetsNtc2008, DependOnTheWayThatPilesAreMade) {
     Json project = by("NTC2008");
     project["wall"]["vertical_bearing"] = {
         {"technology", technology}, {"xi_3", 1.7}, {"xi_4", 1.7}};
-    return combination(expanded(project), "ULS A2+M1+R2, piles")["resistance_factors"];
+    return numbers(combination(expanded(project), "ULS A2+M1+R2, piles")["resistance_factors"]);
   };
   EXPECT_EQ(
       factors("bored"),
@@ -184,14 +216,15 @@ TEST(PresetsEn1997, HaveTwoCombinationsInApproach1) {
   EXPECT_EQ(second["soil_factors"]["undrained_strength"], 1.4);
   EXPECT_EQ(second["resistance_factors"]["global_stability"], 1.0);
   const Json anchors = combination(project, "DA1-2 A2+M1+R4, piles and anchors");
-  EXPECT_EQ(anchors["resistance_factors"], Json({{"anchors", 1.1}}));
+  EXPECT_EQ(numbers(anchors["resistance_factors"]), Json({{"anchors", 1.1}}));
   EXPECT_EQ(anchors["soil_factors"]["friction_angle"], 1.0);
 }
 
 // A.13 and A.14, R2: 1.4 in front, 1.1 for slopes.
 TEST(PresetsEn1997, DivideResistancesInApproach2) {
   const Json found = combination(expanded(by("EN1997-DA2")), "DA2 A1+M1+R2");
-  EXPECT_EQ(found["resistance_factors"], Json({{"soil_in_front", 1.4}, {"global_stability", 1.1}}));
+  EXPECT_EQ(numbers(found["resistance_factors"]),
+            Json({{"soil_in_front", 1.4}, {"global_stability", 1.1}}));
 }
 
 TEST(PresetsEn1997, TellGroundAndStructureApartInApproach3) {
@@ -258,14 +291,51 @@ TEST(Presets, TellWhichNumbersAreToBeConfirmed) {
   EXPECT_THAT(project.notes, Contains(HasSubstr("table 6.5.I, R1")));
 }
 
+TEST(Presets, TellItOfAProjectThatIsWrittenOut) {
+  const Project project = project_of(expanded(by("NTC2008")));
+  EXPECT_THAT(project.standard, IsEmpty());
+  EXPECT_THAT(project.notes, Contains(HasSubstr("table 6.5.I, R1")));
+}
+
+TEST(Presets, DoNotTellItOfACombinationThatTheFileReplaces) {
+  Json project = expanded(by("NTC2008"));
+  for (Json& combination : project["combinations"])
+    combination.erase("to_be_confirmed");
+  project["standard"] = "NTC2008";
+  EXPECT_THAT(project_of(project).notes, Not(Contains(HasSubstr("table 6.5.I, R1"))));
+}
+
+// Status of 6.2.I and 6.2.II: as in the edition of 2018; 6.6.I and 6.5.I: unconfirmed.
+TEST(Presets, WriteTheClauseOfEveryFactor) {
+  const Json found = combination(expanded(anchored("NTC2008", true)), "ULS A1+M1+R1");
+  EXPECT_EQ(found["actions"]["comment"], "A1: table 6.2.I (as in the edition of 2018)");
+  EXPECT_EQ(found["soil_factors"]["comment"], "M1: table 6.2.II (as in the edition of 2018)");
+  const Json& rows = found["resistance_factors"]["comment"];
+  EXPECT_THAT(rows,
+              Contains("soil_in_front: table 6.5.I, R1 (to be confirmed against the standard)"));
+  EXPECT_EQ(rows.size() + 1, found["resistance_factors"].size());
+  EXPECT_THAT(found["to_be_confirmed"], Contains("table 6.5.I, R1"));
+}
+
+TEST(Presets, WriteWhatVariableLoadsAreMultipliedBy) {
+  const Json found = combination(expanded(by("NTC2008")), "SLS frequent");
+  EXPECT_EQ(found["actions"]["comment"],
+            "frequent: 2.5.3 (to be confirmed against the standard), variable loads times psi_1");
+}
+
+TEST(Presets, WriteTheClausesOfBothSetsOfActions) {
+  const Json found = combination(expanded(by("EN1997-DA3")), "DA3 A1|A2+M2+R3");
+  ASSERT_TRUE(found["actions"]["comment"].is_array());
+  EXPECT_THAT(found["actions"]["comment"][0].get<std::string>(), HasSubstr("by A1: table A.3"));
+  EXPECT_THAT(found["actions"]["comment"][1].get<std::string>(), HasSubstr("by A2: table A.3"));
+}
+
 TEST(Presets, CanBeReplacedByAFile) {
-  const TemporaryFolder folder;
   Json own = built_in_presets();
   own["standards"]["OURS"] = own["standards"]["NTC2008"];
   own["standards"]["OURS"]["actions"]["A1"]["permanent"]["unfavourable"] = 1.7;
-  const std::string file = folder.write("own.json", own.dump()).string();
   Problems problems{Texts(Language::english)};
-  const auto presets = read_presets(file, problems);
+  const auto presets = read_presets(own.dump(), problems);
   ASSERT_TRUE(presets.has_value());
   Json project = by("OURS");
   expand_presets(project, *presets, problems);
@@ -273,10 +343,9 @@ TEST(Presets, CanBeReplacedByAFile) {
 }
 
 TEST(Presets, RefuseFilesThatAreNone) {
-  const TemporaryFolder folder;
   for (const char* text : {"", "{", "[]", "{\"standards\": 3}"}) {
     Problems problems{Texts(Language::english)};
-    EXPECT_FALSE(read_presets(folder.write("own.json", text).string(), problems).has_value());
+    EXPECT_FALSE(read_presets(text, problems).has_value());
     EXPECT_THAT(problems.errors(), SizeIs(1)) << text;
   }
 }

@@ -41,5 +41,23 @@ TEST(Problems, AreNoneWhereThereAreOnlyRemarks) {
   EXPECT_EQ(problems.remarks().size(), 1u);
 }
 
+TEST(Problems, NameWhatStandsForAPathThatTheTextDoesNotHold) {
+  Problems problems{Texts(Language::english)};
+  problems.rename("combinations[1]", "standard", "standard (ULS)");
+  problems.remark("combinations[1].checks", "odd");
+  problems.remark("combinations[10].checks", "odd too");
+  const std::string text = "{\n\"combinations\": [],\n\"standard\": \"X\"}";
+  EXPECT_EQ(problems.report("p.json", text),
+            "p.json:2: combinations[10].checks: warning: odd too\n"
+            "p.json:3: standard (ULS).checks: warning: odd\n");
+  EXPECT_EQ(problems.shown("combinations[1].checks"), "standard (ULS).checks");
+}
+
+TEST(Problems, HaveLinesOfTheirOwnWhereTheTextItselfIsWrong) {
+  Problems problems{Texts(Language::english)};
+  problems.add_at_line(7, "a", "b");
+  EXPECT_EQ(problems.report("p.json", "{}"), "p.json:7: found a; allowed b\n");
+}
+
 }  // namespace
 }  // namespace ostrel::host

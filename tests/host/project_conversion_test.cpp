@@ -123,7 +123,7 @@ TEST(ConvertedSoil, IsInTheUnitsOfTheLibrary) {
   EXPECT_EQ(soil.getUnitWeight(), 18e-6);
   EXPECT_EQ(soil.getSaturatedUnitWeight(), 20e-6);
   EXPECT_DOUBLE_EQ(soil.getInternalFriction(), 32.0 * degree);
-  EXPECT_DOUBLE_EQ(soil.getInterfaceFriction(), 20.0 * degree);
+  EXPECT_DOUBLE_EQ(soil.getInterfaceFriction(), 10.0 * degree);
   EXPECT_EQ(soil.getCohesion(), 5e-3);
   EXPECT_EQ(soil.getAdhesion(), 2.5e-3);
   EXPECT_EQ(soil.getElasticityModulus(), 30.0);

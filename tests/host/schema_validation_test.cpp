@@ -14,6 +14,7 @@ using ::testing::ElementsAre;
 using ::testing::Field;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::SizeIs;
 using Json = nlohmann::json;
 
@@ -101,6 +102,7 @@ std::vector<Json> projects_of_all_kinds() {
   const Json factors = {{"favourable", 1}, {"unfavourable", 1.3}};
   piles["combinations"][0]["soil_factors"] = {{"friction_angle", {1, 1.25}}, {"cohesion", 1.25}};
   piles["combinations"][0]["resistance_factors"] = {{"anchors", 1.1}};
+  piles["combinations"][0]["to_be_confirmed"] = {"table 1"};
   piles["combinations"][0]["actions"] = {{"self_weight", factors},
                                          {"earth_pressure", factors},
                                          {"water_pressure", factors},
@@ -142,6 +144,21 @@ TEST(ProjectSchema, KnowsTheFieldsThatTheReaderKnows) {
   const std::set<std::string> described = fields_of_schema().paths;
   EXPECT_THAT(without_those(described, asked), IsEmpty());
   EXPECT_THAT(without_those(asked, described), IsEmpty());
+}
+
+TEST(ProjectSchema, TiesTheFieldsOfALoadToItsType) {
+  const auto findings = [](const Json& load) {
+    return schema_findings(with("/loads/0/on_ground", Json::array({load})));
+  };
+  EXPECT_THAT(findings({{"type", "strip"}, {"value_kPa", 10}, {"distance_m", 1}, {"width_m", 2}}),
+              IsEmpty());
+  EXPECT_THAT(findings({{"type", "strip"}, {"value_kPa", 10}, {"distance_m", 1}}), SizeIs(1));
+  const auto of_line =
+      findings({{"type", "line"}, {"value_kN_m", 10}, {"distance_m", 1}, {"width_m", 2}});
+  ASSERT_THAT(of_line, SizeIs(1));
+  EXPECT_EQ(of_line[0].path, "loads[0].on_ground[0]");
+  EXPECT_THAT(findings({{"type", "point"}, {"value_kPa", 10}, {"distance_m", 1}}), Not(IsEmpty()));
+  EXPECT_THAT(findings({{"type", "uniform"}, {"value_kPa", 10}, {"distance_m", 1}}), SizeIs(1));
 }
 
 TEST(ProjectSchema, DescribesEveryField) {

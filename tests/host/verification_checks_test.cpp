@@ -75,6 +75,14 @@ TEST(VerificationChecks, WantCirclesAndAFactorForGlobalStability) {
   expect_missed(project, "combinations[0].checks", "\"slope\"");
 }
 
+// The ground ends 3 m behind the wall, and every circle below its foot comes up farther away.
+TEST(VerificationChecks, WantRoomForTheCirclesOfGlobalStability) {
+  Json project = checking("global_stability");
+  project["combinations"][0]["resistance_factors"] = {{"global_stability", 1.1}};
+  project["ground"]["retained_width_m"] = 3;
+  expect_missed(project, "ground.retained_width_m", "wider and deeper ground");
+}
+
 TEST(VerificationChecks, WantTheStrengthOfTendons) {
   EXPECT_THAT(read(anchored("anchor_strength", "xi_3")).errors, IsEmpty());
   expect_missed(anchored("anchor_strength", "yield_strength_MPa"), "anchors[0].yield_strength_MPa",
