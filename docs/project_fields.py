@@ -142,6 +142,7 @@ def rules(part):
             yield f"Needed {words}: {listed(asked)}."
         if shut:
             yield f"Not allowed {words}: {listed(shut)}."
+        yield from rules(branch)
 
 
 def condition_of(part):
