@@ -9,6 +9,7 @@
 #include "json_text.h"
 #include "layout_checks.h"
 #include "questionable_circles.h"
+#include "search_size.h"
 #include "section_checks.h"
 #include "signing_checks.h"
 #include "verification_checks.h"
@@ -171,6 +172,7 @@ void check_project(const Project& project, Problems& problems) {
   if (problems.empty()) {
     check_ground(project, problems);
     check_bulbs(project, problems);
+    check_search_size(project, problems);
     remark_upon_circles(project, problems);
     check_before_signing(project, problems);
   }
