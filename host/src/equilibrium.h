@@ -24,12 +24,12 @@ struct ForceSum {
 /// the anchors from their forces, elastic supports from their stiffness. Only what a fixed support
 /// gives is taken from the balance of its own node.
 struct Balance {
-  ForceSum loads;
-  ForceSum soil;
-  ForceSum anchors;
-  ForceSum elastic_supports;
-  ForceSum fixed_supports;
-  ForceSum load_sizes;  ///< of the loads one by one, without their signs
+  ForceSum loads = {};
+  ForceSum soil = {};
+  ForceSum anchors = {};
+  ForceSum elastic_supports = {};
+  ForceSum fixed_supports = {};
+  ForceSum load_sizes = {};  ///< of the loads one by one, without their signs
 
   ForceSum residual() const;
   /// The residual by the size of the loads [-], of the forces or of the moments, whichever is more:
