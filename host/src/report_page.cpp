@@ -32,19 +32,22 @@ std::string data_text(const OrderedJson& data) {
   const std::string text = data.dump(-1, ' ', false, OrderedJson::error_handler_t::replace);
   std::string safe;
   safe.reserve(text.size());
-  for (const char letter : text) {
-    if (letter == '<') {
-      safe += "\\u003c";
-    } else {
-      safe += letter;
-    }
+  std::size_t from = 0;
+  for (std::size_t mark = text.find('<'); mark != std::string::npos; mark = text.find('<', from)) {
+    safe.append(text, from, mark - from) += "\\u003c";
+    from = mark + 1;
   }
-  return safe;
+  return safe.append(text, from);
 }
 
 // The template with a value in the place of each @{name}. What a value holds is not looked at.
-std::string filled(std::string_view page, const std::map<std::string_view, std::string>& values) {
+std::string filled(std::string_view page,
+                   const std::map<std::string_view, std::string_view>& values) {
+  std::size_t size = page.size();
+  for (const auto& [name, value] : values)
+    size += value.size();
   std::string result;
+  result.reserve(size);
   for (;;) {
     const std::size_t mark = page.find("@{");
     if (mark == std::string_view::npos) break;
@@ -69,6 +72,11 @@ OrderedJson message_block(const Project& project, const Job& job, const Outcome&
   static const Both warning{"Attenzione:", "Warning:"};
   static const Both remark{"Informazione:", "Information:"};
   OrderedJson items = OrderedJson::array();
+  for (const OddPlace& place : project.odd_places) {
+    items.push_back({{"severity", "warning"},
+                     {"label", warning},
+                     {"text", same(place.path + ": ") + Both{place.italian, place.english}}});
+  }
   for (const xVeldError& message : outcome.messages) {
     const bool is_error = message.getErr() == veldError;
     const bool is_warning = message.getErr() == veldWarning;
@@ -144,7 +152,7 @@ OrderedJson convention_blocks(const Project& project) {
 
 OrderedJson report_data(const Project& project, const Job& job, const Outcome& outcome,
                         Language language) {
-  const std::vector<Figure> drawn = figures(project, job, outcome);
+  std::vector<Figure> drawn = figures(project, job, outcome);
   OrderedJson chapters = OrderedJson::array();
   const auto add = [&](const char* id, const Both& title, OrderedJson blocks) {
     if (blocks.empty()) return;
@@ -167,8 +175,9 @@ OrderedJson report_data(const Project& project, const Job& job, const Outcome& o
   add("conventions", {"Convenzioni", "Conventions"}, convention_blocks(project));
 
   OrderedJson plots = OrderedJson::object();
-  for (const Figure& figure : drawn) {
-    plots[figure.id] = {{"caption", figure.caption}, {"wide", figure.wide}, {"plot", figure.plot}};
+  for (Figure& figure : drawn) {
+    plots[figure.id] = {
+        {"caption", figure.caption}, {"wide", figure.wide}, {"plot", std::move(figure.plot)}};
   }
   return {{"language", code_of(language)},      {"name", project.name},
           {"description", project.description}, {"program", program()},
@@ -177,14 +186,17 @@ OrderedJson report_data(const Project& project, const Job& job, const Outcome& o
 
 std::string report_page(const Project& project, const Job& job, const Outcome& outcome,
                         Language language) {
-  return filled(embedded_file("page.html"),
-                {{"language", code_of(language)},
-                 {"program", escaped(program())},
-                 {"title", escaped(project.name)},
-                 {"style", std::string(embedded_file("report.css"))},
-                 {"data", data_text(report_data(project, job, outcome, language))},
-                 {"plotly", plotly_with_licence()},
-                 {"script", std::string(embedded_file("report.js"))}});
+  const std::string made_by = escaped(program());
+  const std::string title = escaped(project.name);
+  const std::string data = data_text(report_data(project, job, outcome, language));
+  const std::string plotly = plotly_with_licence();
+  return filled(embedded_file("page.html"), {{"language", code_of(language)},
+                                             {"program", made_by},
+                                             {"title", title},
+                                             {"style", embedded_file("report.css")},
+                                             {"data", data},
+                                             {"plotly", plotly},
+                                             {"script", embedded_file("report.js")}});
 }
 
 }  // namespace ostrel::host

@@ -218,6 +218,17 @@ TEST_F(ReportPage, TellsWhichVerificationIsSatisfied) {
   }
 }
 
+TEST_F(ReportPage, TellsWhatLooksOddInTheProjectBeforeAllElse) {
+  run(sound_project());
+  project_.odd_places = {{"soils[0].friction_angle_deg", "strano", "odd"}};
+  data_ = report_data(project_, job_, outcome_, Language::english);
+  ASSERT_EQ(blocks("messages").size(), 1U);
+  const OrderedJson message = blocks("messages")[0]["items"][0];
+  EXPECT_EQ(message["severity"], "warning");
+  EXPECT_EQ(message["text"]["it"], "soils[0].friction_angle_deg: strano");
+  EXPECT_EQ(message["text"]["en"], "soils[0].friction_angle_deg: odd");
+}
+
 // Whatever the language of the run, of the library's messages and of the notes. The earth pressure of
 // the second combination is more than the soil can bear.
 TEST_F(ReportPage, IsTheSameForARunInEitherLanguage) {
