@@ -126,6 +126,9 @@ TEST_F(Displacements, GovernedByTheHeadAreReportedThere) {
   EXPECT_DOUBLE_EQ(failure->section, 0.0);
   EXPECT_EQ(failure->idObj, 7);
   EXPECT_EQ(failure->combIndex, 8);
+  const osg::ref_ptr<slsCheckInfo> copy = failure->clone();
+  EXPECT_EQ(copy->getString(), failure->getString());
+  EXPECT_DOUBLE_EQ(copy->section, 0.0);
 }
 
 TEST_F(Displacements, WithEqualFactorsAreReportedAtTheExcavation) {

@@ -50,6 +50,15 @@ TEST_F(Rectangle, BeginsWithTheLeastRowsBesideItsCorners) {
   EXPECT_DOUBLE_EQ(section->getReinforcement()->getBracket().getStep(), 300.0);
 }
 
+TEST_F(Rectangle, ClonesWithItsRecord) {
+  settings->minValle = 0.2;
+  build();
+  const osg::ref_ptr<designSection> copy = section->clone();
+  ASSERT_TRUE(section->setReinforcement(new xReinfRectSection));
+  EXPECT_EQ(valley(), 0U);
+  EXPECT_EQ(copy->getReinforcement()->AValleEff().getNumber(), 2U);
+}
+
 // Without corners 1200 / 314.2 = 3.8 and 600 / 314.2 = 1.9.
 TEST_F(Rectangle, HoldsAllSteelInItsRowsWithoutCorners) {
   settings->useVertexBars = false;

@@ -111,6 +111,28 @@ TEST(BendShearResults, GiveATieToTheLaterCombination) {
   EXPECT_DOUBLE_EQ(results.getSfMin(nullptr), 1e10);
 }
 
+TEST(WallResults, ForgetAllAtAReset) {
+  xBendShearCombResults bending = combination({section(0.5, 1.0)});
+  bending.setSf(0.5);
+  bending.reset();
+  EXPECT_EQ(stored(bending), stored(xBendShearCombResults{}));
+  xShearCombResults shear;
+  shear.setCheckID(7, 3, "A1");
+  shear.sections.resize(2);
+  shear.setIndex(1);
+  shear.reset();
+  EXPECT_EQ(stored(shear), stored(xShearCombResults{}));
+  xShearResults all;
+  all.combinations.resize(2);
+  all.reset();
+  EXPECT_EQ(stored(all), stored(xShearResults{}));
+  xStructCombRes forces;
+  forces.setCheckID(7, 3, "A1");
+  forces.stresses.emplace_back(1.0, 2.0, 3.0, 4.0);
+  forces.reset();
+  EXPECT_TRUE(forces.stresses.empty());
+}
+
 TEST(ShearResults, LeaveThePositionAtZero) {
   xShear weak;
   weak.setVd(2.0);
