@@ -148,7 +148,7 @@ TEST_F(Figures, ShowTheGoverningCircleAlongItsSlices) {
   EXPECT_DOUBLE_EQ(arc["y"].front().get<double>(), -2.0);
   EXPECT_DOUBLE_EQ(arc["x"].back().get<double>(), -1.0);
   EXPECT_DOUBLE_EQ(arc["y"].back().get<double>(), -3.0);
-  const auto range = [&](const char* axis, int end) {
+  const auto range = [&](const char* axis, std::size_t end) {
     return drawn["layout"][axis]["range"][end].get<double>();
   };
   EXPECT_DOUBLE_EQ(range("xaxis", 0), -8.0 - 0.32);

@@ -249,8 +249,9 @@ TEST_F(ReportPage, IsTheSameForARunInEitherLanguage) {
   }
   EXPECT_EQ(told[0], told[1]);
   data_ = told[0];
-  ASSERT_EQ(blocks("messages").size(), 1U);
-  for (const OrderedJson& message : blocks("messages")[0]["items"])
+  const std::vector<OrderedJson> messages = blocks("messages");
+  ASSERT_EQ(messages.size(), 1U);
+  for (const OrderedJson& message : messages[0]["items"])
     EXPECT_NE(message["text"]["it"], message["text"]["en"]);
 }
 
