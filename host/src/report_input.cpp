@@ -71,7 +71,10 @@ OrderedJson input_blocks(const Project& project) {
   if (project.slope) add(slope_facts(*project.slope));
   add(soil_table(project));
   add(layer_table(project));
-  if (!project.anchors.empty()) add(anchor_table(project));
+  if (!project.anchors.empty()) {
+    add(anchor_table(project));
+    add(bond_table(project));
+  }
   if (!project.fixed_supports.empty() || !project.elastic_supports.empty())
     add(support_table(project));
   if (!project.spring_intervals.empty()) add(spring_table(project));

@@ -8,6 +8,7 @@
 #include "units.h"
 #include "verification.h"
 #include "wall_section_drawing.h"
+#include "wall_tables.h"
 
 #include <fmt/format.h>
 
@@ -220,6 +221,30 @@ OrderedJson stretch_table(const xReinforcement& reinforcement, bool rectangle) {
   return table.block();
 }
 
+OrderedJson governing_sections(const xStructuralDesign& design) {
+  ReportTable table(
+      "governing-sections",
+      {"Sezione determinante di ogni combinazione", "The governing section of each combination"},
+      {{{"Combinazione", "Combination"}},
+       {{"z", "z"}, "m", 2},
+       {{"N (trazione positiva)", "N (tension positive)"}, "kN", 1},
+       {{"M", "M"}, "kNm", 1},
+       {{"MRd a questo N", "MRd at this N"}, "kNm", 1},
+       {{"V", "V"}, "kN", 1},
+       {{"VRd", "VRd"}, "kN", 1},
+       {{"F", "F"}, "", 2},
+       {{"Esito", "Outcome"}}});
+  for (const xBendShearCombResults& combination : design.bendShear.combinations) {
+    const xSectionCheck* section = governing_section(combination);
+    if (section == nullptr) continue;
+    table.add({combination.getCombName(), m_of_mm(section->abscissa), kn_of_n(section->flex.Nd),
+               knm_of_nmm(section->flex.Md), knm_of_nmm(section->flex.Mrd),
+               kn_of_n(section->shear.getVd()), kn_of_n(section->shear.getVRd()), section->getSf(),
+               verdict_cell(section->getSf() >= 1.0)});
+  }
+  return table.block();
+}
+
 }  // namespace
 
 OrderedJson overview_blocks(const Project& project, const Job& job, const Outcome& outcome,
@@ -297,6 +322,7 @@ OrderedJson reinforcement_blocks(const Project& project, const Outcome& outcome,
       Both{"Sezione più armata, a ", "The section with most reinforcement, "}
           + decimals(fmt::format("{:.2f} m", depth)) + Both{" dalla testa.", " below the head."},
       wall_section_drawing(project.wall, *project.wall.reinforcement, **heaviest)));
+  blocks.push_back(governing_sections(outcome.ultimate.structuralDesign));
   blocks.push_back(stretch_table(reinforcement, project.wall.is_diaphragm));
   blocks.push_back(figures_block(ids_ending(figures, {"-bars", "-stirrups"})));
   return blocks;

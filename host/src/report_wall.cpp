@@ -100,6 +100,29 @@ OrderedJson anchor_table(const Project& project) {
   return table.block();
 }
 
+OrderedJson bond_table(const Project& project) {
+  static const std::array<Both, 3> pressures{
+      {{"a riposo", "at rest"}, {"attiva", "active"}, {"media delle due", "mean of both"}}};
+  static const Both of_soil{"del terreno", "of the soil"};
+  ReportTable table("bonds", {"Bulbi nel terreno", "Bonds in the ground"},
+                    {{{"Tirante", "Anchor"}},
+                     {{"Pressione sul bulbo", "Pressure on the bond"}},
+                     {{"Adesione [kPa]", "Adhesion [kPa]"}},
+                     {{"Angolo di attrito [°]", "Friction angle [°]"}},
+                     {{"Valori minimi delle indagini", "Minimum values of the investigations"}}});
+  const auto given_or_soil = [&](const std::optional<double>& value) {
+    return value ? OrderedJson(decimals(fmt::format("{:g}", *value))) : OrderedJson(of_soil);
+  };
+  for (std::size_t i = 0; i < project.anchors.size(); ++i) {
+    const AnchorInput& anchor = project.anchors[i];
+    table.add({anchor.name.empty() ? fmt::format("{}", i + 1) : anchor.name,
+               entry(pressures, anchor.pressure_coefficient),
+               given_or_soil(anchor.bond_adhesion_kPa),
+               given_or_soil(anchor.bond_friction_angle_deg), anchor.minimum_values});
+  }
+  return table.block();
+}
+
 OrderedJson support_table(const Project& project) {
   ReportTable table("supports", {"Appoggi", "Supports"},
                     {{{"Tipo", "Kind"}},

@@ -12,6 +12,8 @@ OrderedJson wall_facts(const Project& project);
 /// Factors of the vertical bearing.
 OrderedJson bearing_facts(const PileBearingInput& bearing);
 OrderedJson anchor_table(const Project& project);
+/// What the pull-out of each anchor is worked out from, beside its sizes.
+OrderedJson bond_table(const Project& project);
 /// Imposed and elastic supports.
 OrderedJson support_table(const Project& project);
 /// Concrete and steel.

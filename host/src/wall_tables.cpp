@@ -16,14 +16,6 @@ namespace {
 
 using Side = TextTable::Side;
 
-const xSectionCheck* worst_of(const xBendShearCombResults& combination) {
-  const xSectionCheck* worst = nullptr;
-  for (const xSectionCheck& section : combination.sections) {
-    if (worst == nullptr || is_worse(section.getSf(), worst->getSf())) worst = &section;
-  }
-  return worst;
-}
-
 bool has_sections(const xStructuralDesign& design) {
   for (const xBendShearCombResults& combination : design.bendShear.combinations) {
     if (!combination.sections.empty()) return true;
@@ -79,6 +71,14 @@ std::vector<Stretch> stretches_of(const xReinforcement& reinforcement, const Tex
 
 }  // namespace
 
+const xSectionCheck* governing_section(const xBendShearCombResults& combination) {
+  const xSectionCheck* worst = nullptr;
+  for (const xSectionCheck& section : combination.sections) {
+    if (worst == nullptr || is_worse(section.getSf(), worst->getSf())) worst = &section;
+  }
+  return worst;
+}
+
 std::string section_table(const xStructuralDesign& design, const Texts& texts) {
   if (!has_sections(design)) return "";
   TextTable table;
@@ -87,7 +87,7 @@ std::string section_table(const xStructuralDesign& design, const Texts& texts) {
     table.add_column(heading, Side::right);
   table.add_column(std::string(texts(Text::heading_factor)), Side::right);
   for (const xBendShearCombResults& combination : design.bendShear.combinations) {
-    const xSectionCheck* worst = worst_of(combination);
+    const xSectionCheck* worst = governing_section(combination);
     if (worst == nullptr) continue;
     table.add_row(
         {combination.getCombName(), number_text(m_of_mm(worst->abscissa), 2),

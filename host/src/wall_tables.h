@@ -10,6 +10,9 @@
 
 namespace ostrel::host {
 
+/// The section with the worst factor, the first of equal ones; null where none was verified.
+const xSectionCheck* governing_section(const xBendShearCombResults& combination);
+
 /// The worst section of each combination with its forces and resistances; empty where no section
 /// was verified.
 std::string section_table(const xStructuralDesign& design, const Texts& texts);

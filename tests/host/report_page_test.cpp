@@ -12,6 +12,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 #include <sstream>
 #include <utility>
@@ -227,6 +228,17 @@ TEST_F(ReportPage, TellsWhatLooksOddInTheProjectBeforeAllElse) {
   EXPECT_EQ(message["severity"], "warning");
   EXPECT_EQ(message["text"]["it"], "soils[0].friction_angle_deg: strano");
   EXPECT_EQ(message["text"]["en"], "soils[0].friction_angle_deg: odd");
+}
+
+TEST_F(ReportPage, GivesTheGoverningSectionOfEachCombination) {
+  Json json = sound_project();
+  json["combinations"][0]["checks"] = Json::array({"wall_strength"});
+  run(json);
+  const OrderedJson rows = table("governing-sections")["rows"];
+  ASSERT_EQ(rows.size(), 1U);
+  const double bending = rows[0][4].get<double>() / std::abs(rows[0][3].get<double>());
+  const double shear = rows[0][6].get<double>() / std::abs(rows[0][5].get<double>());
+  EXPECT_NEAR(rows[0][7].get<double>(), std::min(bending, shear), 1e-9);
 }
 
 // Whatever the language of the run, of the library's messages and of the notes. The earth pressure of
