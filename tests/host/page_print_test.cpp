@@ -101,17 +101,17 @@ TEST(PagePrintBrowser, PrintsWhereOneIsInstalledAndFailsWhereNoneIs) {
   EXPECT_EQ(print.bytes.substr(0, 5), browser.empty() ? "" : "%PDF-");
 }
 
-// Its title changes half a second after it is loaded, in 50 steps.
+// Its title changes half a second after it is loaded, in 50 steps. Without a browser there are no
+// bytes.
 TEST(PagePrintBrowser, WaitsUntilThePageIsDrawn) {
   const std::string browser = found_browser();
-  if (browser.empty()) GTEST_SKIP() << "no browser: script/setup --test installs one";
   const Print print = print_page(browser,
                                  "<!doctype html><title>early</title><p>wall</p><script>"
                                  "let steps = 0; function draw() { if (++steps < 50) setTimeout("
                                  "draw, 10); else document.title = 'late'; } draw();</script>",
                                  120);
-  EXPECT_EQ(print.problem, PrintProblem::none);
-  EXPECT_THAT(print.bytes, HasSubstr("/Title (late)"));
+  EXPECT_EQ(print.problem, browser.empty() ? PrintProblem::failed : PrintProblem::none);
+  EXPECT_EQ(print.bytes.find("/Title (late)") != std::string::npos, !browser.empty());
 }
 
 }  // namespace
