@@ -31,6 +31,9 @@ add_library(ostrel_test_options INTERFACE)
 if(OSTREL_SANITIZE)
   target_compile_options(ostrel_test_options INTERFACE -O0 -fno-sanitize=undefined)
 endif()
+if(OSTREL_BUILD_FUZZERS)
+  target_compile_options(ostrel_test_options INTERFACE -fno-sanitize=fuzzer-no-link)
+endif()
 
 # Counters in what is linked with `ostrel_counters`. Nothing is optimised there: each line is one.
 add_library(ostrel_counters INTERFACE)

@@ -27,6 +27,7 @@ function(ostrel_room_tests name)
   endif()
   set(program "ostrel_${name}_tests")
   add_executable(${program} ${sources})
+  set_target_properties(${program} PROPERTIES UNITY_BUILD OFF)  # tests share names of helpers
   target_include_directories(${program} PRIVATE "${PROJECT_SOURCE_DIR}/tests"
                                                 "${PROJECT_SOURCE_DIR}/src")
   if(EXISTS "${PROJECT_SOURCE_DIR}/platform/${name}/src")

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "batch_progress.h"
 
+#include "texts_testing.h"
+
 #include <gmock/gmock.h>
 
 #include <sstream>
@@ -12,8 +14,6 @@ using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
-
-const Texts english(Language::english);
 
 BatchResult satisfied(const std::string& file) {
   return {.file = file,

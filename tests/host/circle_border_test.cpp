@@ -5,6 +5,7 @@
 #include "host_testing.h"
 #include "project_conversion.h"
 #include "report_page.h"
+#include "texts_testing.h"
 
 #include <gmock/gmock.h>
 
@@ -27,8 +28,6 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
 using Json = nlohmann::json;
-
-const Texts english{Language::english};
 
 // Piles of 10 m, excavation 4 m, level ground 30 m in front, 40 m behind and down to -30 m.
 Project searching(const Json& slope) {

@@ -6,6 +6,7 @@
 #include "host_testing.h"
 #include "project_conversion.h"
 #include "run_data.h"
+#include "texts_testing.h"
 
 #include <gmock/gmock.h>
 
@@ -156,7 +157,6 @@ TEST(RelativeResidual, IsNothingWithoutForcesAndInfiniteWithoutLoads) {
 }
 
 TEST(BalanceSentence, StandsWhereTheResidualIsNotSmall) {
-  const Texts english{Language::english};
   EXPECT_EQ(balance_sentence(0.001, english), "");
   EXPECT_THAT(balance_sentence(0.0123, english), ::testing::HasSubstr("1.2 % of the loads"));
   const double none = std::numeric_limits<double>::quiet_NaN();

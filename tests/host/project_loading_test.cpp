@@ -6,6 +6,7 @@
 #include "project_conversion.h"
 #include "run_data.h"
 #include "tables_json.h"
+#include "texts_testing.h"
 
 #include <gmock/gmock.h>
 
@@ -57,7 +58,6 @@ TEST_F(Loading, FindsNothingOddInASoundProject) {
 TEST_F(Loading, TakesRemarksIntoTheTablesAndTheSavedResults) {
   const Project project = loaded(with(odd_field, 55), Language::english);
   const Job job = to_job(project);
-  const Texts english(Language::english);
   const TablesHead head = head_of(project, job, analyse(job), english);
   EXPECT_THAT(head.messages, Contains(StartsWith("Warning: soils[0].friction_angle_deg")));
   const std::string saved = (folder_.path() / "saved").string();

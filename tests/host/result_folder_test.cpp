@@ -3,6 +3,7 @@
 
 #include "host_testing.h"
 #include "project_conversion.h"
+#include "texts_testing.h"
 
 #include <gmock/gmock.h>
 
@@ -12,8 +13,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-const Texts english{Language::english};
 
 class Folder : public ::testing::Test {
 protected:

@@ -4,6 +4,7 @@
 #include "host_testing.h"
 #include "project_conversion.h"
 #include "run_report.h"
+#include "texts_testing.h"
 #include "verification_testing.h"
 
 #include <gmock/gmock.h>
@@ -15,8 +16,6 @@ namespace {
 
 using ::testing::HasSubstr;
 using ::testing::SizeIs;
-
-const Texts english{Language::english};
 
 // Where the parts of a file begin: 16 bytes of its kind, 4 of the version, 8 of the length.
 constexpr std::size_t version_at = 16;

@@ -4,6 +4,7 @@
 #include "host_testing.h"
 #include "project_conversion.h"
 #include "text_table.h"
+#include "texts_testing.h"
 
 #include <gmock/gmock.h>
 
@@ -67,7 +68,6 @@ TEST(RunReport, SaysWhichCombinationHasNoResult) {
 TEST(RunReport, TellsWhatIsLeftOverOfTheForcesAndWhereThatIsMuch) {
   const Project project = project_of(sound_project());
   const Job job = to_job(project);
-  const Texts english(Language::english);
   RunData data = run_data_of(project, job, analyse(job), english);
   const std::string fine = run_report(data, english);
   EXPECT_THAT(fine,

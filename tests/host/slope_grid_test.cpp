@@ -120,15 +120,15 @@ TEST(DefaultSlopeGrid, StaysWithinTheGround) {
   }
 }
 
-// The ground behind rises from the head by 0.3, to `top`.
-Json rising_ground(double top) {
+// The ground behind rises from the head by 0.3, to `peak`.
+Json rising_ground(double peak) {
   Json project = sound_project();
-  const double far = top / 0.3;
+  const double far = peak / 0.3;
   project["ground"] = {
       {"layers",
        {{{"soil", "sand"},
          {"polygons_m",
-          {{{-30, -30}, {100, -30}, {100, top}, {far, top}, {0, 0}, {0, -4}, {-30, -4}}}}}}}};
+          {{{-30, -30}, {100, -30}, {100, peak}, {far, peak}, {0, 0}, {0, -4}, {-30, -4}}}}}}}};
   return project;
 }
 

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "system_reason.h"
 
+#include "texts_testing.h"
+
 #include <gtest/gtest.h>
 
 #include <cerrno>
 
 namespace ostrel::host {
 namespace {
-
-const Texts english(Language::english);
-const Texts italian(Language::italian);
 
 TEST(SystemReason, IsToldInTheLanguageOfTheProgram) {
   const auto missing = make_error_code(std::errc::no_such_file_or_directory);

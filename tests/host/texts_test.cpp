@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "texts.h"
 
+#include "texts_testing.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -20,8 +22,6 @@ std::multiset<std::string> places(std::string_view text) {
 }
 
 TEST(Texts, AreThereInBothLanguagesWithTheSamePlaces) {
-  const Texts italian(Language::italian);
-  const Texts english(Language::english);
   for (std::int32_t i = 0; i < static_cast<std::int32_t>(Text::count_); ++i) {
     const auto text = static_cast<Text>(i);
     EXPECT_FALSE(italian(text).empty()) << i;

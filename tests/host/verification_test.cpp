@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "verification.h"
 
+#include "texts_testing.h"
 #include "verification_testing.h"
 
 #include <gmock/gmock.h>
@@ -12,7 +13,6 @@ namespace ostrel::host {
 namespace {
 
 constexpr double no_number = std::numeric_limits<double>::quiet_NaN();
-const Texts english{Language::english};
 
 Verification found(Check check, const xUltimateLimitStates& ultimate,
                    const xServiceabilityLimitStates& serviceability = {}) {

@@ -15,8 +15,8 @@ namespace ostrel::host {
 /// A text with one blank where there are several.
 inline std::string squeezed(const std::string& text) {
   std::string squeezed;
-  for (const char letter : text) {
-    if (letter != ' ' || squeezed.empty() || squeezed.back() != ' ') squeezed += letter;
+  for (const char sign : text) {
+    if (sign != ' ' || squeezed.empty() || squeezed.back() != ' ') squeezed += sign;
   }
   return squeezed;
 }

@@ -2,6 +2,7 @@
 #include "wall_tables.h"
 
 #include "text_table.h"
+#include "texts_testing.h"
 #include "verification_testing.h"
 
 #include <gmock/gmock.h>
@@ -13,9 +14,6 @@ namespace {
 
 using ::testing::HasSubstr;
 using ::testing::Not;
-
-const Texts english{Language::english};
-const Texts italian{Language::italian};
 
 TEST(SectionTable, HoldsTheGoverningSectionOfEachCombination) {
   const std::string table = squeezed(section_table(verified_wall(), english));
