@@ -2,6 +2,7 @@
 #include "report_results.h"
 
 #include "host_testing.h"
+#include "outcome_testing.h"
 #include "verification_testing.h"
 
 #include <gmock/gmock.h>
@@ -11,8 +12,7 @@
 namespace ostrel::host {
 namespace {
 
-// Two combinations with one result, of the second: a beam of two elements of 1 m, the excavation at
-// its middle node. The head moves 8 mm towards the excavation, the foot 9 mm away from it.
+// Two combinations with one result, of the second.
 class ReportResults : public ::testing::Test {
 protected:
   ReportResults() {
@@ -21,21 +21,7 @@ protected:
     second.name = "<2> & \"rare\"";
     second.kind = combRare;
     project_.combinations.push_back(second);
-    outcome_.model.fem.nodes = {{0.0, 0.0}, {0.0, 1000.0}, {0.0, 2000.0}};
-    outcome_.model.fem.elements.resize(2);
-    outcome_.model.fem.setJtsoil(1);
-    outcome_.model.fem.constrDof0[2] = 0.0;
-    xCombResults combination;
-    combination.setCombName(second.name);
-    combination.setcombIndex(2);
-    xFemResults& results = combination.femResults;
-    results.dispAxial.points = {{0.0, 0.1}, {1000.0, 0.1}, {2000.0, 0.0}};
-    results.dispTrans.points = {{0.0, -8.0}, {1000.0, -4.0}, {2000.0, 9.0}};
-    results.rotation.points = {{0.0, 0.0}, {1000.0, 0.0}, {2000.0, 0.0}};
-    results.moment.points = {{0.0, 0.0}, {1000.0, 3e6}, {1000.0, 3e6}, {2000.0, -5e6}};
-    results.shear.points = {{0.0, 0.0}, {1000.0, 2e3}, {1000.0, -4e3}, {2000.0, 0.0}};
-    results.axial.points = {{0.0, 0.0}, {1000.0, -1e3}, {1000.0, -1e3}, {2000.0, -7e3}};
-    outcome_.results.combResults = {combination};
+    outcome_ = small_outcome(second.name);
   }
   static OrderedJson table(const OrderedJson& blocks, const std::string& id) {
     for (const OrderedJson& block : blocks) {

@@ -1,33 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "summary.h"
 
+#include "outcome_testing.h"
+
 #include <gmock/gmock.h>
 
 namespace ostrel::host {
 namespace {
 
 using ::testing::SizeIs;
-
-// A beam of two elements with the excavation at its middle node, 1 m long each.
-Outcome small_outcome() {
-  Outcome outcome;
-  outcome.model.fem.nodes = {{0.0, 0.0}, {0.0, 1000.0}, {0.0, 2000.0}};
-  outcome.model.fem.elements.resize(2);
-  outcome.model.fem.setJtsoil(1);
-  outcome.model.fem.constrDof0[2] = 0.0;
-  xCombResults combination;
-  combination.setCombName("C");
-  combination.setcombIndex(2);
-  xFemResults& results = combination.femResults;
-  results.dispAxial.points = {{0.0, 0.1}, {1000.0, 0.1}, {2000.0, 0.0}};
-  results.dispTrans.points = {{0.0, -8.0}, {1000.0, -4.0}, {2000.0, 9.0}};
-  results.rotation.points = {{0.0, 0.0}, {1000.0, 0.0}, {2000.0, 0.0}};
-  results.moment.points = {{0.0, 0.0}, {1000.0, 3e6}, {1000.0, 3e6}, {2000.0, -5e6}};
-  results.shear.points = {{0.0, 0.0}, {1000.0, 2e3}, {1000.0, -4e3}, {2000.0, 0.0}};
-  results.axial.points = {{0.0, 0.0}, {1000.0, -1e3}, {1000.0, -1e3}, {2000.0, -7e3}};
-  outcome.results.combResults = {combination};
-  return outcome;
-}
 
 Summary summarised(const Outcome& outcome) {
   return summary_of(Job{}, outcome, outcome.results.combResults[0]);
