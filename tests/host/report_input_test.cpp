@@ -153,6 +153,56 @@ TEST_F(ReportInput, SetsFavourableBesideUnfavourable) {
   EXPECT_EQ(rows[3][1]["pair"], OrderedJson({1.5, 1.5}));
 }
 
+// The first has nothing of its own: the pressure is at rest, adhesion and friction are the soil's.
+TEST_F(ReportInput, TellsWhatEachBondIsWorkedOutFrom) {
+  Json json = sound_project();
+  const Json anchor = {{"level_m", -1}, {"inclination_deg", 20},   {"free_length_m", 8},
+                       {"number", 2},   {"tendon_area_mm2", 500},  {"E_GPa", 195},
+                       {"xi_3", 1.8},   {"bond_diameter_mm", 180}, {"bond_length_m", 6}};
+  json["anchors"] = {anchor, anchor, anchor};
+  json["anchors"][1].update({{"name", "<T2>"},
+                             {"pressure_coefficient", "active"},
+                             {"bond", {{"adhesion_kPa", 12.5}, {"friction_angle_deg", 0}}},
+                             {"minimum_values", true}});
+  json["anchors"][2]["pressure_coefficient"] = "mean";
+  read(json);
+  const OrderedJson table = block("table", "id", "bonds");
+  EXPECT_EQ(table["columns"][2]["label"]["it"], "Adesione [kPa]");
+  EXPECT_EQ(table["columns"][3]["label"]["en"], "Friction angle [°]");
+  const Both of_soil{"del terreno", "of the soil"};
+  ASSERT_EQ(table["rows"].size(), 3U);
+  EXPECT_EQ(table["rows"][0],
+            OrderedJson({"1", Both{"a riposo", "at rest"}, of_soil, of_soil, false}));
+  EXPECT_EQ(table["rows"][1], OrderedJson({"<T2>", Both{"attiva", "active"}, Both{"12,5", "12.5"},
+                                           Both{"0", "0"}, true}));
+  EXPECT_EQ(table["rows"][2],
+            OrderedJson({"3", Both{"media delle due", "mean of both"}, of_soil, of_soil, false}));
+}
+
+TEST_F(ReportInput, HasNoBondsWithoutAnchors) {
+  read(sound_project());
+  EXPECT_TRUE(block("table", "id", "bonds").is_null());
+}
+
+// What a standard gives for the ground in front changes nothing; who reads the report is told. The
+// other factors are not marked.
+TEST_F(ReportInput, MarksTheResistanceInFrontThatNoSpringReads) {
+  read(with("/combinations/0/resistance_factors", {{"soil_in_front", 1.4}, {"uplift", 0.9}}));
+  const OrderedJson rows = block("table", "id", "resistance-factors")["rows"];
+  ASSERT_EQ(rows.size(), 2U);
+  EXPECT_EQ(rows[0], OrderedJson({Both{"Terreno a valle (nessuna molla lo legge)",
+                                       "Soil in front (no spring reads it)"},
+                                  1.4}));
+  EXPECT_EQ(rows[1], OrderedJson({Both{"Sollevamento", "Uplift"}, 0.9}));
+}
+
+TEST_F(ReportInput, SaysNothingOfTheResistanceInFrontWhereItHasNoFactor) {
+  read(with("/combinations/0/resistance_factors", {{"uplift", 0.9}}));
+  const OrderedJson rows = block("table", "id", "resistance-factors")["rows"];
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows[0][0]["en"], "Uplift");
+}
+
 TEST_F(ReportInput, LeavesNamesAsTheyAre) {
   Json json = sound_project();
   const std::string name = "<b>\"Q\" & 'q'";
