@@ -2,13 +2,20 @@
 #include "ostrel/solver.h"
 
 #include "ostrel/language.h"
+#include "soil/surcharge_laws.h"
+#include "support/relative.h"
 #include "support/stream_round_trip.h"
 #include "support/wall_builder.h"
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+#include <numbers>
+#include <tuple>
+
 namespace {
 
+using ostrel::testing::expect_relative;
 using ostrel::testing::sand;
 using ostrel::testing::stored;
 using ostrel::testing::unfactored;
@@ -170,6 +177,96 @@ TEST_F(Run, GivesEveryCombinationTheResultsOfARunOfItsOwn) {
     ASSERT_EQ(alone.solve(own, uls, sls, errors), veldNothing);
     EXPECT_EQ(stored(results.combResults[i]), stored(own.combResults.at(0)));
     uls.reset();
+  }
+}
+
+// The wall with a line of 10 N/mm 1500 mm behind it and a point of 90 kN 600 mm behind it, each in a
+// condition of its own. All four combinations have the factors 1, but 1.5 where the line acts.
+xSheetpilingData wall_beside_loads() {
+  xSheetpilingData data = standing_wall().build();
+  data.loadConds.resize(2);
+  const osg::ref_ptr<xLinearLoad> line = new xLinearLoad;
+  line->setValue(10.0);
+  line->setPosition(1500.0);
+  data.loadConds[0].soilLoads = {line};
+  const osg::ref_ptr<xPuntiformLoad> point = new xPuntiformLoad;
+  point->setValue(90e3);
+  point->setPosition(600.0);
+  data.loadConds[1].soilLoads = {point};
+  for (const auto& [name, has_line, has_point] : {std::tuple{"none", false, false},
+                                                  {"line", true, false},
+                                                  {"point", false, true},
+                                                  {"both", true, true}}) {
+    xLoadComb comb = unfactored(name);
+    comb.actions.emplace_back().set("line", has_line, 7.0, 1.5);
+    comb.actions.emplace_back().set("point", has_point, 7.0, 1.0);
+    data.loadCombs.push_back(comb);
+  }
+  return data;
+}
+
+// H = 3000 and at the depth 1500 n = 0.5, the end of the sixth element of 250 mm. The line has
+// m = 0.5: 4 / (pi H) m² n / (n² + m²)² = 4 / (3000 pi) * 0.125 / 0.25 = 2 / (3000 pi), by 10 N/mm,
+// 1000 mm of wall and 1.5: 10 / pi. The point has m = 0.2: 0.28 n² / (n² + 0.16)³ = 0.07 / 0.068921,
+// by 90e3 / H² = 0.01 and the width over which it spreads.
+TEST_F(Run, PressesTheBeamWithALineAndAPointOnTheGround) {
+  ASSERT_EQ(run(wall_beside_loads()), veldNothing);
+  ASSERT_EQ(results.combResults.size(), 4U);
+  const std::vector<xFemLoadCond>& conditions = results.combResults[3].femLoadConds;
+  ASSERT_EQ(conditions.size(), 4U);
+  EXPECT_EQ(conditions[2].getCondName(), "line");
+  EXPECT_EQ(conditions[2].pressures.size(), 12U);
+  expect_relative(conditions[2].pressures.at(5).pEnd, -10.0 / std::numbers::pi);
+  EXPECT_EQ(conditions[3].getCondName(), "point");
+  EXPECT_EQ(conditions[3].pressures.size(), 12U);
+  const double width = ostrel::soil::point_spread(600.0, 1000.0);
+  expect_relative(conditions[3].pressures.at(5).pEnd, -0.01 * 0.07 / 0.068921 * width);
+}
+
+// What presses on the 3 m above the excavation, element by element a trapezoid of 250 mm, is what the
+// springs below hold, in force and in moment about the head.
+TEST_F(Run, HoldsALineAndAPointOnTheGroundByTheSoil) {
+  ASSERT_EQ(run(wall_beside_loads()), veldNothing);
+  for (const xCombResults& combination : results.combResults) {
+    double pushed = 0.0;
+    double moment = 0.0;
+    for (const xFemLoadCond& condition : combination.femLoadConds) {
+      for (const auto& [element, pressure] : condition.pressures) {
+        const double top = 250.0 * element;
+        const double start = -pressure.pStart;
+        const double end = -pressure.pEnd;
+        pushed += 250.0 * (start + end) / 2.0;
+        moment += 250.0 * (start * (top + 250.0 / 3.0) + end * (top + 500.0 / 3.0)) / 2.0;
+      }
+    }
+    double held = 0.0;
+    double held_moment = 0.0;
+    for (const auto& [node, spring] : combination.femResults.soilForces) {
+      held += spring.springForce;
+      held_moment += spring.springForce * -spring.elevation;
+    }
+    EXPECT_GT(pushed, 0.0);
+    EXPECT_NEAR(held, pushed, 1e-6 * pushed) << combination.getCombName();
+    EXPECT_NEAR(held_moment, moment, 1e-6 * moment) << combination.getCombName();
+  }
+}
+
+// With springs that have no limit the wall moves by the sum of what each load moves it.
+TEST_F(Run, WithoutLimitsAddsUpWhatALineAndAPointDo) {
+  solver.femOptions.linear = true;
+  ASSERT_EQ(run(wall_beside_loads()), veldNothing);
+  ASSERT_EQ(results.combResults.size(), 4U);
+  const auto displacement = [this](std::size_t combination, std::size_t node) {
+    return results.combResults[combination].femResults.dispTrans.points.at(node).value;
+  };
+  const std::size_t nodes = results.combResults[0].femResults.dispTrans.points.size();
+  const double head = std::abs(displacement(0, 0));
+  for (const std::size_t load : {1U, 2U}) {
+    EXPECT_GT(std::abs(displacement(load, 0)), 1.01 * head);
+  }
+  for (std::size_t node = 0; node < nodes; ++node) {
+    EXPECT_NEAR(displacement(3, node) + displacement(0, node),
+                displacement(1, node) + displacement(2, node), 1e-7 * head);
   }
 }
 
