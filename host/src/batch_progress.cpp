@@ -69,6 +69,7 @@ void BatchProgress::tell(const BatchResult& result) {
                         {"factor", result.factor},
                         {"governs", result.governs},
                         {"seconds", result.seconds},
+                        {"folder", result.folder},
                         {"messages", result.messages}});
   } else {
     stream_ << result.messages;

@@ -10,7 +10,9 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <filesystem>
 #include <sstream>
+#include <utility>
 
 namespace ostrel::host {
 
@@ -67,6 +69,18 @@ std::size_t shared_folder(const std::vector<BatchResult>& results) {
   return slash == std::string::npos ? 0 : slash + 1;
 }
 
+std::string name_of_folder(const BatchResult& result) {
+  return std::filesystem::path(result.folder).filename().string();
+}
+
+// Projects of one name have folders that nobody would guess.
+bool folders_need_telling(const std::vector<BatchResult>& results) {
+  return std::any_of(results.begin(), results.end(), [](const BatchResult& result) {
+    const std::filesystem::path file(result.file);
+    return !result.folder.empty() && name_of_folder(result) != file.stem().string();
+  });
+}
+
 // The rows stand below two lines of heading.
 std::string coloured_rows(const std::string& table, const std::vector<BatchResult>& results) {
   constexpr std::size_t heading_lines = 2;
@@ -100,7 +114,9 @@ std::string_view code_of(BatchVerdict verdict) {
 std::string batch_table(const std::vector<BatchResult>& results, const Texts& texts, bool colours) {
   using Side = TextTable::Side;
   TextTable table;
+  const bool tells_folders = folders_need_telling(results);
   table.add_column(std::string(phrase::heading_file.in(texts)), Side::left);
+  if (tells_folders) table.add_column(std::string(phrase::heading_folder.in(texts)), Side::left);
   table.add_column(std::string(texts(Text::heading_outcome)), Side::left);
   table.add_column(std::string(texts(Text::heading_factor)), Side::right);
   table.add_column(std::string(phrase::heading_governs.in(texts)), Side::left);
@@ -108,9 +124,12 @@ std::string batch_table(const std::vector<BatchResult>& results, const Texts& te
   const std::size_t folder = shared_folder(results);
   for (const BatchResult& result : results) {
     const bool started = result.verdict != BatchVerdict::not_started;
-    table.add_row({result.file.substr(folder), std::string(name_of(result.verdict, texts)),
-                   result.factor, result.governs,
-                   started ? fmt::format("{:.1f}", result.seconds) : ""});
+    std::vector<std::string> cells{result.file.substr(folder)};
+    if (tells_folders) cells.push_back(name_of_folder(result));
+    cells.insert(cells.end(),
+                 {std::string(name_of(result.verdict, texts)), result.factor, result.governs,
+                  started ? fmt::format("{:.1f}", result.seconds) : ""});
+    table.add_row(std::move(cells));
   }
   std::string text = table.render();
   if (colours) text = coloured_rows(text, results);

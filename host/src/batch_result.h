@@ -27,10 +27,11 @@ enum class BatchVerdict : std::int32_t {
 struct BatchResult {
   std::string file;
   BatchVerdict verdict = BatchVerdict::not_started;
-  std::string factor;    ///< the worst, as tables show it; empty where nothing was verified
-  std::string governs;   ///< the verification that it belongs to
-  double seconds = 0.0;  ///< from reading the file to writing its results
-  std::string messages;  ///< one a line, each with the name of the file
+  std::string factor;       ///< the worst, as tables show it; empty where nothing was verified
+  std::string governs;      ///< the verification that it belongs to
+  double seconds = 0.0;     ///< from reading the file to writing its results
+  std::string folder = {};  ///< that holds its results; empty where none were written
+  std::string messages;     ///< one a line, each with the name of the file
 };
 
 /// Whether the batch as a whole fails by it.
@@ -41,7 +42,8 @@ std::string_view name_of(BatchVerdict verdict, const Texts& texts);
 /// For programs, as "not_satisfied".
 std::string_view code_of(BatchVerdict verdict);
 
-/// A row for each project, then how many there are of each outcome.
+/// A row for each project, then how many there are of each outcome. Where a folder of results is not
+/// named after its project alone, the folder of each stands beside it.
 /// @param colours  red for what failed, yellow for what is not satisfied, green for the rest
 std::string batch_table(const std::vector<BatchResult>& results, const Texts& texts, bool colours);
 

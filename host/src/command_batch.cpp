@@ -138,7 +138,10 @@ private:
         write_results(folder_, project, job, outcome, options_.texts.language());
     result_.messages +=
         with_name(result_.file, strangers_warning(folder_, written.strangers, options_.texts));
-    if (!written.failure) return;
+    if (!written.failure) {
+      result_.folder = folder_;
+      return;
+    }
     result_.verdict = BatchVerdict::not_written;
     result_.messages += options_.texts(Text::cannot_write, written.failure->file,
                                        reason_of(written.failure->error, options_.texts))

@@ -53,6 +53,7 @@ inline constexpr Phrase threads_line{
 inline constexpr Phrase progress_line{"avanzamento: auto, none, plain o json",
                                       "progress: auto, none, plain or json"};
 inline constexpr Phrase heading_file{"File", "File"};
+inline constexpr Phrase heading_folder{"Cartella", "Folder"};
 inline constexpr Phrase heading_governs{"Governa", "Governs"};
 inline constexpr Phrase batch_not_started{"non calcolato", "not started"};
 inline constexpr Phrase batch_satisfied{"soddisfatto", "satisfied"};

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "batch_result.h"
 
+#include "verification_testing.h"
+
 #include <gmock/gmock.h>
 
 namespace ostrel::host {
@@ -38,6 +40,31 @@ TEST(BatchTable, LeavesOutTheFolderThatAllFilesShare) {
   EXPECT_THAT(table, AllOf(HasSubstr("\nnorth/a.json "), HasSubstr("\nnorway/b.json ")));
   results.resize(1);
   EXPECT_THAT(batch_table(results, Texts(Language::english), false), HasSubstr("\na.json "));
+}
+
+// Two projects of one name; the third could not be read and has no folder.
+TEST(BatchTable, TellsTheFolderOfEachWhereOneIsNotNamedAfterItsProject) {
+  std::vector<BatchResult> results = two;
+  results.insert(results.begin(), two[0]);
+  results[0].file = "/walls/north/a.json";
+  results[1].file = "/walls/south/a.json";
+  results[2].file = "/walls/south/b.json";
+  results[0].folder = "all/a";
+  results[1].folder = "all/a-2";
+  EXPECT_THAT(
+      squeezed(batch_table(results, Texts(Language::english), false)),
+      AllOf(HasSubstr("File Folder Outcome "), HasSubstr("\nnorth/a.json a satisfied 1.25 "),
+            HasSubstr("\nsouth/a.json a-2 satisfied 1.25 "),
+            HasSubstr("\nsouth/b.json wrong file ")));
+  EXPECT_THAT(
+      squeezed(batch_table(results, Texts(Language::italian), false)),
+      AllOf(HasSubstr("File Cartella Esito "), HasSubstr("\nsouth/a.json a-2 soddisfatto 1.25 ")));
+}
+
+TEST(BatchTable, TellsNoFoldersThatAreNamedAfterTheirProjects) {
+  std::vector<BatchResult> results = two;
+  results[0].folder = "all/a";
+  EXPECT_THAT(batch_table(results, Texts(Language::english), false), Not(HasSubstr("Folder")));
 }
 
 TEST(BatchTable, ColoursRowsWhereAsked) {

@@ -4,6 +4,7 @@
 
 #include "command_line.h"
 #include "host_testing.h"
+#include "verification_testing.h"
 
 #include <fmt/format.h>
 #include <gmock/gmock.h>
@@ -11,11 +12,13 @@
 #include <chrono>
 #include <csignal>
 #include <fcntl.h>
+#include <map>
 #include <spawn.h>
 #include <sstream>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace ostrel::host {
 namespace {
@@ -119,6 +122,8 @@ TEST_F(CommandBatch, WritesNoResultsOverThoseOfTheSameName) {
   EXPECT_EQ(status_, exit_fine) << err_;
   EXPECT_THAT(contents_of(folder_ / "all" / "p" / "result.json"), Not(HasSubstr("the other wall")));
   EXPECT_THAT(contents_of(folder_ / "all" / "p-2" / "result.json"), HasSubstr("the other wall"));
+  EXPECT_THAT(squeezed(out_),
+              AllOf(HasSubstr("\na/p.json p not"), HasSubstr("\nb/p.json p-2 not")));
 }
 
 TEST_F(CommandBatch, FailsWhereResultsCannotBeWrittenAndGoesOn) {
@@ -158,6 +163,22 @@ TEST_F(CommandBatch, TellsItsProgressToPrograms) {
   EXPECT_EQ(events[2]["done"], 2);
   EXPECT_EQ(events[3]["event"], "end");
   EXPECT_EQ(events[3]["failed"], 1);
+  EXPECT_EQ(events[1]["folder"], "");
+}
+
+// The second of one name has a folder that its own does not tell; the last, none.
+TEST_F(CommandBatch, TellsProgramsWhichFolderBelongsToWhichProject) {
+  batch({sound("a/p.json"), sound("b/p.json"), wrong("c/p.json"), "-o", folder("all"), "--progress",
+         "json"});
+  std::map<std::string, std::string> folders;
+  std::istringstream lines(err_);
+  for (std::string line; std::getline(lines, line);) {
+    const Json event = Json::parse(line);
+    if (event["event"] == "file") folders[event["file"]] = event["folder"];
+  }
+  EXPECT_THAT(folders, ElementsAre(std::pair(folder("a/p.json"), folder("all/p")),
+                                   std::pair(folder("b/p.json"), folder("all/p-2")),
+                                   std::pair(folder("c/p.json"), "")));
 }
 
 TEST_F(CommandBatch, KeepsQuietAboutItsProgressWhereAsked) {
