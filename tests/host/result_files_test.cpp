@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <regex>
+#include <set>
 #include <sstream>
 
 namespace ostrel::host {
@@ -61,6 +63,20 @@ TEST_F(ResultFiles, AreNamedAfterNumberAndNameOfTheCombination) {
                           "reinforcement.csv", "anchors.csv", "equilibrium.csv",
                           "01-SLU-A1-M1-citt-wall.csv", "01-SLU-A1-M1-citt-springs.csv",
                           "01-SLU-A1-M1-citt-pressures.csv", "tables.json"));
+}
+
+// The page that tells what is in a folder of results names every file there, and no other.
+TEST_F(ResultFiles, StandInTheFirstSteps) {
+  run(sound_project());
+  std::set<std::string> written{"figures/*.json"};
+  for (const std::string& name : names())
+    written.insert(name.starts_with("01-C-") ? "NN-name-" + name.substr(5) : name);
+  const std::string page = contents_of(std::string(OSTREL_EXAMPLES) + "/../docs/first_steps.md");
+  for (const std::string& name : written)
+    EXPECT_THAT(page, HasSubstr("`" + name + "`"));
+  const std::regex file("`([^`]+[.]csv)`");
+  for (std::sregex_iterator found(page.begin(), page.end(), file), end; found != end; ++found)
+    EXPECT_THAT(written, Contains((*found)[1].str()));
 }
 
 TEST_F(ResultFiles, HoldEachFigureInOneLanguage) {
