@@ -157,6 +157,14 @@ inline constexpr Phrase residual_not_small{
 inline constexpr Phrase residual_without_measure{
     "non si può dire se le forze siano in equilibrio, i risultati non sono affidabili",
     "whether the forces are in balance cannot be told, do not rely on the results"};
+inline constexpr Phrase part_loads{"Carichi", "Loads"};
+inline constexpr Phrase part_soil{"Terreno", "Soil"};
+inline constexpr Phrase part_anchors{"Tiranti", "Anchors"};
+inline constexpr Phrase part_elastic_supports{"Appoggi elastici", "Elastic supports"};
+inline constexpr Phrase part_fixed_supports{"Appoggi imposti", "Imposed supports"};
+inline constexpr Phrase part_residual{"Residuo", "Residual"};
+inline constexpr Phrase earth_pressure{"Spinta del terreno", "Earth pressure"};
+inline constexpr Phrase water_pressure{"Spinta dell'acqua", "Water pressure"};
 inline constexpr Phrase overwrites_input{
     "{0}: {1} sovrascriverebbe un file che si legge",
     "{0}: {1} would write over a file that is read"};  // file, argument

@@ -3,6 +3,7 @@
 
 #include "csv.h"
 #include "equilibrium.h"
+#include "phrases.h"
 #include "summary.h"
 #include "units.h"
 #include "verification.h"
@@ -39,6 +40,10 @@ TableCell factor(double value) {
 
 TableCell text(std::string_view words) {
   return std::string(words);
+}
+
+TableCell coded(std::string_view code, std::string_view words) {
+  return CodedText{std::string(code), std::string(words)};
 }
 
 // Two rows for each element, at its two ends: the forces jump where something acts on a node.
@@ -91,48 +96,61 @@ ResultTable spring_table(const Summary& summary, const Outcome& outcome) {
   return table;
 }
 
-void add_pressures(const std::string& name, const std::vector<xLayerPress>& diagrams,
+void add_pressures(const TableCell& action, const std::vector<xLayerPress>& diagrams,
                    ResultTable& table) {
   for (const xLayerPress& diagram : diagrams) {
     for (const diag_Point& point : diagram.points) {
-      table.rows.push_back({text(name), number(m_of_mm(-diagram.start.y + point.s)),
-                            number(kn_m_of_n_mm(point.value))});
+      table.rows.push_back(
+          {action, number(m_of_mm(-diagram.start.y + point.s)), number(kn_m_of_n_mm(point.value))});
     }
   }
 }
 
-ResultTable pressure_table(const xCombResults& combination) {
+ResultTable pressure_table(const xCombResults& combination, const Texts& texts) {
   ResultTable table{.subject = "pressures", .columns = {"action", "depth_m", "pressure_kN_m"}};
-  add_pressures("earth", combination.earthPress.diagrams, table);
-  add_pressures("water", combination.hydroPress.diagrams, table);
+  add_pressures(coded("earth", phrase::earth_pressure.in(texts)), combination.earthPress.diagrams,
+                table);
+  add_pressures(coded("water", phrase::water_pressure.in(texts)), combination.hydroPress.diagrams,
+                table);
   for (const xLoadCondPress& condition : combination.loadCondPress) {
     for (const xLoadPress& load : condition.loads)
-      add_pressures(condition.name, load.diagrams, table);
+      add_pressures(text(condition.name), load.diagrams, table);
   }
   return table;
 }
 
-void add_summary(const Summary& summary, ResultTable& table) {
-  const auto row = [&](const std::string& quantity, const Extreme& extreme) {
-    table.rows.push_back(
-        {text(summary.name), text(quantity), number(extreme.value), number(extreme.depth_m)});
+// An anchor by its name, or else by its number.
+std::string anchor_words(const Project& project, std::size_t place, const Texts& texts) {
+  const bool named = place < project.anchors.size() && !project.anchors[place].name.empty();
+  return texts(Text::anchor_row,
+               named ? project.anchors[place].name : fmt::format("{}", place + 1));
+}
+
+void add_summary(const Project& project, const Summary& summary, const Texts& texts,
+                 ResultTable& table) {
+  const auto row = [&](const std::string& code, std::string_view words, const char* unit,
+                       const Extreme& extreme) {
+    table.rows.push_back({text(summary.name), coded(code, fmt::format("{} [{}]", words, unit)),
+                          number(extreme.value), number(extreme.depth_m)});
   };
-  row("moment_kNm", summary.moment_kNm);
-  row("shear_kN", summary.shear_kN);
-  row("axial_kN", summary.axial_kN);
-  row("displacement_mm", summary.displacement_mm);
-  row("spring_use", summary.spring_use);
+  row("moment_kNm", texts(Text::moment_row), "kNm", summary.moment_kNm);
+  row("shear_kN", texts(Text::shear_row), "kN", summary.shear_kN);
+  row("axial_kN", texts(Text::axial_row), "kN", summary.axial_kN);
+  row("displacement_mm", texts(Text::displacement_row), "mm", summary.displacement_mm);
+  row("spring_use", texts(Text::spring_row), "-", summary.spring_use);
   for (std::size_t i = 0; i < summary.anchors.size(); ++i) {
-    row(fmt::format("anchor_{}_kN", i + 1),
-        {.value = summary.anchors[i].force_kN, .depth_m = summary.anchors[i].depth_m});
+    const AnchorState& anchor = summary.anchors[i];
+    row(fmt::format("anchor_{}_kN", i + 1), anchor_words(project, anchor.place, texts), "kN",
+        {.value = anchor.force_kN, .depth_m = anchor.depth_m});
   }
   for (const SupportState& support : summary.supports) {
-    const auto part = [&](const char* quantity, const std::optional<double>& value) {
-      if (value) row(quantity, {.value = *value, .depth_m = support.depth_m});
+    const auto part = [&](const char* code, Text words, const char* unit,
+                          const std::optional<double>& value) {
+      if (value) row(code, texts(words), unit, {.value = *value, .depth_m = support.depth_m});
     };
-    part("support_horizontal_kN", support.horizontal_kN);
-    part("support_vertical_kN", support.vertical_kN);
-    part("support_moment_kNm", support.moment_kNm);
+    part("support_horizontal_kN", Text::support_horizontal_row, "kN", support.horizontal_kN);
+    part("support_vertical_kN", Text::support_vertical_row, "kN", support.vertical_kN);
+    part("support_moment_kNm", Text::support_moment_row, "kNm", support.moment_kNm);
   }
 }
 
@@ -142,7 +160,8 @@ ResultTable verification_rows(const Outcome& outcome, const Texts& texts) {
       .columns = {"verification", "made", "factor", "satisfied", "combination", "place"}};
   for (const Verification& each :
        verifications_of(outcome.ultimate, outcome.serviceability, texts)) {
-    Row row{text(check_codes.at(static_cast<std::size_t>(each.check))), each.made};
+    Row row{coded(check_codes.at(static_cast<std::size_t>(each.check)), name_of(each.check, texts)),
+            each.made};
     if (each.made) {
       row.insert(row.end(), {factor(each.factor), each.factor >= 1.0, text(each.combination),
                              text(each.place)});
@@ -235,24 +254,26 @@ void add_anchors(const Project& project, const Outcome& outcome, const Summary& 
   }
 }
 
-void add_balance(const Summary& summary, const Balance& balance, ResultTable& table) {
+void add_balance(const Summary& summary, const Balance& balance, const Texts& texts,
+                 ResultTable& table) {
   const ForceSum residual = balance.residual();
-  const std::array<std::pair<std::string_view, const ForceSum*>, 6> parts{
-      {{"loads", &balance.loads},
-       {"soil", &balance.soil},
-       {"anchors", &balance.anchors},
-       {"elastic_supports", &balance.elastic_supports},
-       {"fixed_supports", &balance.fixed_supports},
-       {"residual", &residual}}};
-  for (const auto& [name, sum] : parts) {
-    table.rows.push_back({text(summary.name), text(name), number(kn_of_n(sum->across)),
-                          number(kn_of_n(sum->along)), number(knm_of_nmm(sum->moment))});
-    if (sum == &residual) table.rows.back().push_back(number(summary.residual.relative_to_loads));
-  }
+  const auto row = [&](std::string_view code, const Phrase& words, const ForceSum& sum) {
+    table.rows.push_back({text(summary.name), coded(code, words.in(texts)),
+                          number(kn_of_n(sum.across)), number(kn_of_n(sum.along)),
+                          number(knm_of_nmm(sum.moment))});
+  };
+  row("loads", phrase::part_loads, balance.loads);
+  row("soil", phrase::part_soil, balance.soil);
+  row("anchors", phrase::part_anchors, balance.anchors);
+  row("elastic_supports", phrase::part_elastic_supports, balance.elastic_supports);
+  row("fixed_supports", phrase::part_fixed_supports, balance.fixed_supports);
+  row("residual", phrase::part_residual, residual);
+  table.rows.back().push_back(number(summary.residual.relative_to_loads));
 }
 
 std::string csv_cell(const TableCell& cell) {
   if (const auto* words = std::get_if<std::string>(&cell)) return *words;
+  if (const auto* one = std::get_if<CodedText>(&cell)) return one->code;
   if (const auto* value = std::get_if<double>(&cell)) return csv_number(*value);
   if (const auto* yes = std::get_if<bool>(&cell)) return *yes ? "1" : "0";
   return {};
@@ -276,11 +297,11 @@ std::vector<ResultTable> result_tables(const Project& project, const Job& job,
   std::vector<ResultTable> of_each;
   for (const xCombResults& combination : outcome.results.combResults) {
     const Summary summary = summary_of(job, outcome, combination);
-    add_summary(summary, summaries);
+    add_summary(project, summary, texts, summaries);
     add_anchors(project, outcome, summary, anchors);
-    add_balance(summary, balance_of(job, outcome, combination), equilibrium);
+    add_balance(summary, balance_of(job, outcome, combination), texts, equilibrium);
     for (ResultTable& table : std::array{wall_table(combination), spring_table(summary, outcome),
-                                         pressure_table(combination)}) {
+                                         pressure_table(combination, texts)}) {
       table.combination = summary.index;
       table.combination_name = summary.name;
       of_each.push_back(std::move(table));

@@ -16,8 +16,15 @@
 
 namespace ostrel::host {
 
-/// Nothing, a text, a number or yes and no. A number that is not finite counts as nothing.
-using TableCell = std::variant<std::monostate, std::string, double, bool>;
+/// One of a few things: for programs, as "anchor_tendon", and for people, in their language.
+struct CodedText {
+  std::string code;
+  std::string words;
+};
+
+/// Nothing, a text, one of a few things, a number or yes and no. A number that is not finite counts
+/// as nothing.
+using TableCell = std::variant<std::monostate, std::string, CodedText, double, bool>;
 
 struct ResultTable {
   std::string subject;  ///< as "springs"
@@ -29,11 +36,11 @@ struct ResultTable {
 
 /// Of all combinations: "summary", "verifications", "sections", "reinforcement", "anchors" and
 /// "equilibrium". Then of each that was solved: "wall", "springs" and "pressures".
-/// @param texts  for the places of verifications, which are told in words
+/// @param texts  for the places of verifications and the words of what has a code
 std::vector<ResultTable> result_tables(const Project& project, const Job& job,
                                        const Outcome& outcome, const Texts& texts);
 
-/// A table as comma-separated values. Yes and no are 1 and 0.
+/// A table as comma-separated values. Yes and no are 1 and 0, and codes stand without their words.
 std::string csv_of(const ResultTable& table);
 
 }  // namespace ostrel::host

@@ -23,6 +23,8 @@ Json json_of(const TableCell& cell) {
       [](const auto& value) -> Json {
         if constexpr (std::is_same_v<std::decay_t<decltype(value)>, std::monostate>) {
           return nullptr;
+        } else if constexpr (std::is_same_v<std::decay_t<decltype(value)>, CodedText>) {
+          return value.code;
         } else {
           return value;
         }

@@ -71,6 +71,13 @@ std::string cell_text(const std::string& original) {
   return text.substr(0, end);
 }
 
+// What a cell tells people; empty for a number.
+std::string words_of(const TableCell& cell) {
+  if (const auto* one = std::get_if<CodedText>(&cell)) return one->words;
+  const auto* text = std::get_if<std::string>(&cell);
+  return text != nullptr ? *text : "";
+}
+
 // Rows [first, last] of a table that belong together.
 struct Stretch {
   std::string name;
@@ -114,13 +121,19 @@ private:
     for (std::size_t i = 0; i < cells.size(); ++i) {
       const lxw_col_t column = column_number(i);
       if (const auto* text = std::get_if<std::string>(&cells[i])) {
-        keep(worksheet_write_string(sheet_, row, column, cell_text(*text).c_str(), nullptr));
+        write_text(row, column, *text);
+      } else if (const auto* one = std::get_if<CodedText>(&cells[i])) {
+        write_text(row, column, one->words);
       } else if (const auto* number = std::get_if<double>(&cells[i])) {
         keep(worksheet_write_number(sheet_, row, column, *number, nullptr));
       } else if (const auto* yes = std::get_if<bool>(&cells[i])) {
         keep(worksheet_write_boolean(sheet_, row, column, *yes ? 1 : 0, nullptr));
       }
     }
+  }
+
+  void write_text(lxw_row_t row, lxw_col_t column, const std::string& text) {
+    keep(worksheet_write_string(sheet_, row, column, cell_text(text).c_str(), nullptr));
   }
 
   void add_charts() {
@@ -141,8 +154,7 @@ private:
   std::vector<Stretch> actions() const {
     std::vector<Stretch> actions;
     for (std::size_t i = 0; i < table_.rows.size(); ++i) {
-      const auto* name = std::get_if<std::string>(&table_.rows[i].front());
-      const std::string action = name != nullptr ? *name : "";
+      const std::string action = words_of(table_.rows[i].front());
       if (actions.empty() || actions.back().name != action) actions.push_back({action, i, i});
       actions.back().last = i;
     }

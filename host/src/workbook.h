@@ -16,7 +16,8 @@ struct Workbook {
   std::string problem;  ///< in English; empty for none
 };
 
-/// A sheet for each table with headings in the language of `texts`, and charts over the depth on
+/// A sheet for each table with headings in the language of `texts`, words where other exports have
+/// codes, and charts over the depth on
 /// those of a combination: moment, shear and displacement along the wall, pressure of the springs
 /// against its limit, pressures above the excavation.
 /// @param title  of the document

@@ -17,6 +17,7 @@ namespace {
 using ::testing::AllOf;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using Json = nlohmann::json;
 
 // Prints the title, the names of the sheets and the count of charts, and fails where a part is not
@@ -33,6 +34,23 @@ print(*[s.get("name") for s in tree.fromstring(book.read("xl/workbook.xml")).ite
 print(sum(part.startswith("xl/charts/chart") for part in book.namelist()))
 )";
 
+// Prints every row of a sheet, its cells between bars, and then the names in the legends of all
+// charts.
+constexpr const char* cell_reader = R"(import sys, zipfile
+import xml.etree.ElementTree as tree
+book = zipfile.ZipFile(sys.argv[1])
+main = "{http://schemas.openxmlformats.org/spreadsheetml/2006/main}"
+chart = "{http://schemas.openxmlformats.org/drawingml/2006/chart}"
+def parts(name, tag):
+    return tree.fromstring(book.read(name)).iter(tag)
+texts = ["".join(t.text for t in s.iter(main + "t")) for s in parts("xl/sharedStrings.xml", main + "si")]
+for row in parts("xl/worksheets/sheet" + sys.argv[2] + ".xml", main + "row"):
+    values = [(c.get("t"), c.findtext(main + "v")) for c in row.iter(main + "c")]
+    print(*[texts[int(v)] if kind == "s" else v for kind, v in values], sep="|")
+for name in sorted(n for n in book.namelist() if n.startswith("xl/charts/chart")):
+    print(*[v.text for s in parts(name, chart + "tx") for v in s.iter(chart + "v")], sep=";")
+)";
+
 class CommandExport : public ::testing::Test {
 protected:
   void run(std::vector<std::string> arguments) { call("export", std::move(arguments)); }
@@ -45,11 +63,11 @@ protected:
     err_ = err.str();
   }
   std::string file(const std::string& name) const { return (folder_ / name).string(); }
-  // What the reader prints.
-  std::string read(const std::string& name) {
-    const std::string script = folder_.write("reader.py", reader).string();
-    const std::string command =
-        "python3 '" + script + "' '" + file(name) + "' >'" + file("printed") + "'";
+  // What a reader prints.
+  std::string read(const std::string& name, const char* code = reader, int sheet = 1) {
+    const std::string script = folder_.write("reader.py", code).string();
+    const std::string command = "python3 '" + script + "' '" + file(name) + "' "
+                              + std::to_string(sheet) + " >'" + file("printed") + "'";
     EXPECT_EQ(std::system(command.c_str()), 0);
     return contents_of(folder_ / "printed");
   }
@@ -74,6 +92,47 @@ TEST_F(CommandExport, MakesAWorkbookWithASheetForEachTableAndCharts) {
 TEST_F(CommandExport, NamesSheetsInTheLanguageAskedFor) {
   run({"--xlsx", file("w.xlsx"), "--lang", "it"});
   EXPECT_THAT(read("w.xlsx"), HasSubstr("Riepilogo|Verifiche"));
+}
+
+TEST_F(CommandExport, TellsInAWorkbookWordsForCodes) {
+  Json json = with("/water", {{"retained_level_m", -1}, {"excavated_level_m", -4}});
+  json["supports"] = {{"elastic", {{{"level_m", 0}, {"horizontal_kN_m", 100}}}}};
+  json["anchors"] = {{{"name", "<T>"},
+                      {"level_m", -1},
+                      {"inclination_deg", 20},
+                      {"free_length_m", 9},
+                      {"number", 2},
+                      {"tendon_area_mm2", 500},
+                      {"E_GPa", 195}}};
+  project_ = folder_.write("q.json", json.dump()).string();
+  run({"--xlsx", file("it.xlsx"), "--lang", "it"});
+  ASSERT_EQ(status_, exit_fine) << err_;
+  const auto italian = [this](int sheet) { return read("it.xlsx", cell_reader, sheet); };
+  EXPECT_THAT(italian(1),
+              AllOf(HasSubstr("\nC|Momento massimo [kNm]|"),
+                    HasSubstr("\nC|Sforzo normale massimo (trazione positiva) [kN]|"),
+                    HasSubstr("\nC|Molla più sfruttata [-]|"), HasSubstr("\nC|Tirante <T> [kN]|"),
+                    HasSubstr("\nC|Appoggio, forza orizzontale [kN]|"), Not(HasSubstr("_kN"))));
+  EXPECT_THAT(italian(2), AllOf(HasSubstr("\nStabilità globale|"), Not(HasSubstr("slope"))));
+  EXPECT_THAT(italian(6), AllOf(HasSubstr("\nC|Carichi|"), HasSubstr("\nC|Terreno|"),
+                                HasSubstr("\nC|Tiranti|"), HasSubstr("\nC|Appoggi elastici|"),
+                                HasSubstr("\nC|Appoggi imposti|"), HasSubstr("\nC|Residuo|")));
+  EXPECT_THAT(italian(9),
+              AllOf(HasSubstr("\nSpinta del terreno|0|"), HasSubstr("\nSpinta dell'acqua|"),
+                    HasSubstr("\nQ|0|"), HasSubstr("\nSpinta del terreno;Spinta dell'acqua;Q")));
+  run({"--xlsx", file("en.xlsx"), "--json", file("t.json"), "--lang", "en"});
+  const auto english = [this](int sheet) { return read("en.xlsx", cell_reader, sheet); };
+  EXPECT_THAT(english(1), HasSubstr("\nC|Support, horizontal force [kN]|"));
+  EXPECT_THAT(english(2), HasSubstr("\nGlobal stability|"));
+  EXPECT_THAT(english(6), HasSubstr("\nC|Imposed supports|"));
+  EXPECT_THAT(english(9), HasSubstr("\nWater pressure|"));
+  // Programs go on reading codes.
+  const Json tables = Json::parse(contents_of(folder_ / "t.json"));
+  EXPECT_EQ(tables["summary"][0]["quantity"], "moment_kNm");
+  EXPECT_EQ(tables["summary"][5]["quantity"], "anchor_1_kN");
+  EXPECT_EQ(tables["verifications"][6]["verification"], "slope");
+  EXPECT_EQ(tables["equilibrium"][4]["part"], "fixed_supports");
+  EXPECT_EQ(tables["combinations"][0]["pressures"][0]["action"], "earth");
 }
 
 TEST_F(CommandExport, TakesNamesThatMarkupHasToEscape) {

@@ -39,7 +39,9 @@ protected:
     return std::get<double>(table.rows.at(row).at(place_of(table, column)));
   }
   static std::string text(const ResultTable& table, std::size_t row, std::string_view column) {
-    return std::get<std::string>(table.rows.at(row).at(place_of(table, column)));
+    const TableCell& cell = table.rows.at(row).at(place_of(table, column));
+    const auto* one = std::get_if<CodedText>(&cell);
+    return one != nullptr ? one->code : std::get<std::string>(cell);
   }
 
   Outcome outcome_;
@@ -166,8 +168,8 @@ TEST(ResultTable, BecomesCommaSeparatedValues) {
   const ResultTable table{.subject = "s",
                           .columns = {"a", "b", "c", "d"},
                           .rows = {{std::string("x, y"), 0.5, true, std::monostate{}},
-                                   {std::string(), -2.0, false, 1.0}}};
-  EXPECT_EQ(csv_of(table), "a,b,c,d\r\n\"x, y\",0.5,1,\r\n,-2,0,1\r\n");
+                                   {CodedText{"code", "words"}, -2.0, false, 1.0}}};
+  EXPECT_EQ(csv_of(table), "a,b,c,d\r\n\"x, y\",0.5,1,\r\ncode,-2,0,1\r\n");
 }
 
 }  // namespace
