@@ -205,7 +205,7 @@ std::optional<Project> read_project(std::string_view text, Problems& problems,
     problems.rename(child_path("combinations", own + i), "standard",
                     fmt::format("standard ({})", expansion.added[i]));
   }
-  check_schema(*json, problems);
+  if (reading.by_schema) check_schema(*json, problems);
   check_project(project, problems);
   remark_upon_unusual_numbers(*json, problems);
   if (!problems.empty()) return std::nullopt;

@@ -19,6 +19,7 @@ struct ProjectReading {
   const nlohmann::json* presets =
       nullptr;                             ///< standards; those of the program where there are none
   std::set<std::string>* asked = nullptr;  ///< gathers the paths of all fields looked for
+  bool by_schema = true;                   ///< also; a file that has passed needs it no more
 };
 
 /// Reads a project and looks at each field by itself and at all of them together. Whatever is wrong

@@ -49,14 +49,14 @@ OrderedJson in_reading_order(const nlohmann::json& combination) {
   return ordered;
 }
 
-// The remarks that a reading made, and beside each what it is in the other language: the project is
-// read once more for that.
+// The remarks that a reading made, and beside each what it is in the other language: the project,
+// which was accepted, is read once more for that. The schema makes no remarks and is left out.
 std::vector<OddPlace> odd_places(const std::string& text, const Problems& told,
-                                 const ProjectReading& reading) {
+                                 const nlohmann::json& presets) {
   if (told.remarks().empty()) return {};
   const bool in_italian = told.texts().language() == Language::italian;
   Problems other(Texts(in_italian ? Language::english : Language::italian));
-  read_project(text, other, reading);
+  read_project(text, other, {.presets = &presets, .by_schema = false});
   const std::vector<Remark>& italian = (in_italian ? told : other).remarks();
   const std::vector<Remark>& english = (in_italian ? other : told).remarks();
   std::vector<OddPlace> places;
@@ -78,7 +78,7 @@ LoadedProject load_project(const ProjectSource& source, const Texts& texts, std:
   const std::optional<std::string> text = read_file(source.project_file, problems);
   if (text) loaded.project = read_project(*text, problems, {.presets = &*presets});
   if (loaded.project) {
-    loaded.project->odd_places = odd_places(*text, problems, {.presets = &*presets});
+    loaded.project->odd_places = odd_places(*text, problems, *presets);
   }
   err << problems.report(source.project_file, text ? *text : "");
   loaded.errors = problems.errors().size();

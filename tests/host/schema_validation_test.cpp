@@ -212,5 +212,16 @@ TEST(CheckSchema, TellsWhatNobodyTold) {
   EXPECT_THAT(problems.errors()[1].allowed, HasSubstr("greater than 0"));
 }
 
+// The reader takes anything as the place of the schema; the schema wants a text.
+TEST(CheckSchema, IsLeftOutOfAReadingThatAsksForNone) {
+  const std::string project = with("/$schema", 5).dump();
+  for (const bool by_schema : {true, false}) {
+    Problems problems{Texts(Language::english)};
+    const auto read = read_project(project, problems, {.by_schema = by_schema});
+    EXPECT_EQ(read.has_value(), !by_schema);
+    EXPECT_THAT(problems.errors(), SizeIs(by_schema ? 1 : 0));
+  }
+}
+
 }  // namespace
 }  // namespace ostrel::host
