@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "bilingual.h"
 
+#include "phrases.h"
+
 #include <cstddef>
 #include <map>
 #include <string_view>
@@ -58,6 +60,17 @@ std::string filled(const Form& form, const Arguments& arguments) {
   return text;
 }
 
+std::optional<Both> retold_by(const std::string& told, std::string_view in_italian,
+                              std::string_view in_english) {
+  const Form italian = form_of(in_italian);
+  const Form english = form_of(in_english);
+  for (const Form& form : {italian, english}) {
+    if (const auto arguments = arguments_of(told, form))
+      return Both{filled(italian, *arguments), filled(english, *arguments)};
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 Both operator+(const Both& first, const Both& second) {
@@ -74,13 +87,11 @@ Both decimals(const std::string& text) {
 }
 
 std::optional<Both> retold(const std::string& told, Text text) {
-  const Form italian = form_of(Texts(Language::italian)(text));
-  const Form english = form_of(Texts(Language::english)(text));
-  for (const Form& form : {italian, english}) {
-    if (const auto arguments = arguments_of(told, form))
-      return Both{filled(italian, *arguments), filled(english, *arguments)};
-  }
-  return std::nullopt;
+  return retold_by(told, Texts(Language::italian)(text), Texts(Language::english)(text));
+}
+
+std::optional<Both> retold(const std::string& told, const Phrase& text) {
+  return retold_by(told, text.in(Texts(Language::italian)), text.in(Texts(Language::english)));
 }
 
 void to_json(OrderedJson& json, const Both& text) {

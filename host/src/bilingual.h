@@ -18,6 +18,8 @@ namespace ostrel::host {
 
 using OrderedJson = nlohmann::ordered_json;
 
+class Phrase;
+
 /// One text in both languages.
 struct Both {
   std::string italian;
@@ -47,8 +49,11 @@ const Both& entry(const std::array<Both, count>& texts, std::size_t place) {
   return place < count ? texts[place] : unknown;
 }
 
-/// A text that was made of `text` in one language, in both; none where it was not.
+/// @name A text that was made of `text` in one language, in both; none where it was not
+///@{
 std::optional<Both> retold(const std::string& told, Text text);
+std::optional<Both> retold(const std::string& told, const Phrase& text);
+///@}
 
 /// As {"it": ..., "en": ...}.
 void to_json(OrderedJson& json, const Both& text);

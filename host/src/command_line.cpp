@@ -13,6 +13,7 @@
 #include "completion.h"
 #include "library_messages.h"
 #include "manual_page.h"
+#include "parser_words.h"
 #include "phrases.h"
 #include "schema_validation.h"
 #include "tables_json.h"
@@ -60,6 +61,10 @@ public:
       : asked_(asked), texts_(asked.value_or(language_of_environment())), out_(out), err_(err) {
     app_.description(described(texts_, Text::program_line));
     app_.name("ostrel");
+    app_.formatter(help_form(texts_));
+    app_.failure_message([this](const CLI::App*, const CLI::Error& error) {
+      return refusal_of_arguments(error.what(), texts_);
+    });
     app_.require_subcommand(1);
     app_.fallthrough();
     app_.set_help_flag("-h,--help", described(texts_, Text::help_line));
@@ -80,6 +85,7 @@ public:
     add_batch();
     add_export();
     add_completion();
+    head_commands(app_, texts_);
   }
 
   int run(std::vector<std::string> arguments) {
