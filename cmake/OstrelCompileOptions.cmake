@@ -28,7 +28,7 @@ endif()
 # The code of tests: what they test is optimised and has all sanitizers. Without them, but for the
 # one of addresses, tests take half the time to compile.
 add_library(ostrel_test_options INTERFACE)
-if(OSTREL_SANITIZE)
+if(OSTREL_SANITIZE AND NOT OSTREL_OPTIMISE_FUZZERS)
   target_compile_options(ostrel_test_options INTERFACE -O0 -fno-sanitize=undefined)
 endif()
 if(OSTREL_BUILD_FUZZERS)

@@ -22,6 +22,14 @@ Outcome analyse(const Job& job) {
   return outcome;
 }
 
+// A result carries the number of its combination, from 1 up.
+const xCombResults* result_of(const Outcome& outcome, std::size_t place) {
+  for (const xCombResults& result : outcome.results.combResults) {
+    if (result.getcombIndex() == static_cast<int>(place) + 1) return &result;
+  }
+  return nullptr;
+}
+
 const std::vector<xSlopeStability>& slope_results(const Outcome& outcome) {
   return outcome.ultimate.slopeStabilityDesign.getResults();
 }

@@ -11,6 +11,7 @@
 #include <ostrel/slope_stability.h>
 #include <ostrel/ultimate_limit_states.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,9 @@ struct Outcome {
 
 /// Runs the analysis. The job stays as it is: the run works on a copy.
 Outcome analyse(const Job& job);
+
+/// The results of the combination at `place` in the project, from 0; null where it has none.
+const xCombResults* result_of(const Outcome& outcome, std::size_t place);
 
 /// The search of slip circles of each combination that asks for it.
 const std::vector<xSlopeStability>& slope_results(const Outcome& outcome);

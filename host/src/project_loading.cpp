@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "project_loading.h"
 
+#include "bilingual.h"
 #include "json_text.h"
 #include "presets.h"
 #include "problems.h"
@@ -15,8 +16,6 @@
 namespace ostrel::host {
 
 namespace {
-
-using OrderedJson = nlohmann::ordered_json;
 
 // The standards; nothing where their file is wrong, which is told.
 std::optional<nlohmann::json> load_presets(const ProjectSource& source, const Texts& texts,

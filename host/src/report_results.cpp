@@ -44,13 +44,6 @@ std::vector<std::string> ids_ending(const std::vector<Figure>& figures,
   return ids;
 }
 
-const xCombResults* result_of(const Outcome& outcome, std::size_t place) {
-  for (const xCombResults& result : outcome.results.combResults) {
-    if (result.getcombIndex() == static_cast<int>(place) + 1) return &result;
-  }
-  return nullptr;
-}
-
 std::string name_of_anchor(const Project& project, std::size_t place) {
   const bool named = place < project.anchors.size() && !project.anchors[place].name.empty();
   return named ? project.anchors[place].name : fmt::format("{}", place + 1);

@@ -10,18 +10,6 @@
 
 namespace ostrel::host {
 
-namespace {
-
-// A result carries the number of its combination, from 1 up.
-const xCombResults* result_of(const Outcome& outcome, std::size_t place) {
-  for (const xCombResults& result : outcome.results.combResults) {
-    if (result.getcombIndex() == static_cast<int>(place) + 1) return &result;
-  }
-  return nullptr;
-}
-
-}  // namespace
-
 RunData run_data_of(const Project& project, const Job& job, const Outcome& outcome,
                     const Texts& texts) {
   const WallInput& wall = project.wall;

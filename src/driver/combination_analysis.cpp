@@ -9,9 +9,10 @@
 #include <tuple>
 #include <utility>
 
+using ostrel::model::vertical_back;
+
 namespace {
 
-constexpr double vertical_back = 0.0;  // inclination of the wall's back [rad]
 constexpr auto pressure_factors = geoFactorPressure;
 
 // The fixed head of a combination's actions; load condition i goes with action 3 + i.

@@ -7,11 +7,12 @@
 #include <cstdint>
 #include <utility>
 
+using ostrel::model::vertical_back;
+
 namespace {
 
 constexpr std::size_t fixed_actions = 3;  // weight, earth pressure, water pressure
 constexpr auto spring_factors = geoFactorResistance;
-constexpr double vertical_back = 0.0;  // inclination of the wall's back [rad]
 
 // Holds the foot of the wall along it.
 xConstraint held_foot(double length) {

@@ -36,7 +36,7 @@ Json levels_of(const std::vector<double>& tops, double bottom) {
 const Json upper = {{0, -2}, {40, -2}, {40, 0}, {0, 0}};
 const Json lower = {{-30, -30}, {40, -30}, {40, -2}, {0, -2}, {0, -4}, {-30, -4}};
 
-void expect_error(const Json& project, const std::string& path, const std::string& found) {
+void expect_found(const Json& project, const std::string& path, const std::string& found) {
   const ReadingOutcome outcome = read(project);
   EXPECT_FALSE(outcome.project.has_value());
   ASSERT_THAT(outcome.errors, SizeIs(1));
@@ -50,22 +50,22 @@ TEST(GroundChecks, TakePolygonsThatJoinAtTheWall) {
 }
 
 TEST(GroundChecks, RefusePolygonsThatDoNotReachTheWall) {
-  expect_error(ground_of({{{1, -2}, {40, -2}, {40, 0}, {1, 0}}, lower}),
+  expect_found(ground_of({{{1, -2}, {40, -2}, {40, 0}, {1, 0}}, lower}),
                "ground.layers[0].polygons_m", "do not cross");
   // Wholly on the excavated side.
-  expect_error(ground_of({upper, lower, {{-30, -40}, {-1, -40}, {-1, -30}, {-30, -30}}}),
+  expect_found(ground_of({upper, lower, {{-30, -40}, {-1, -40}, {-1, -30}, {-30, -30}}}),
                "ground.layers[2].polygons_m", "do not cross");
 }
 
 TEST(GroundChecks, RefusePolygonsOfTwoVertices) {
-  expect_error(ground_of({{{0, -2}, {40, -2}}, lower}), "ground.layers[0].polygons_m[0]",
+  expect_found(ground_of({{{0, -2}, {40, -2}}, lower}), "ground.layers[0].polygons_m[0]",
                "a list of 2");
 }
 
 TEST(GroundChecks, RefuseGapsAndOverlapsAtTheWall) {
-  expect_error(ground_of({{{0, -1}, {40, -1}, {40, 0}, {0, 0}}, lower}), "ground.layers[1]",
+  expect_found(ground_of({{{0, -1}, {40, -1}, {40, 0}, {0, 0}}, lower}), "ground.layers[1]",
                "begins at -2.000 m");
-  expect_error(ground_of({{{0, -3}, {40, -3}, {40, 0}, {0, 0}}, lower}), "ground.layers[1]",
+  expect_found(ground_of({{{0, -3}, {40, -3}, {40, 0}, {0, 0}}, lower}), "ground.layers[1]",
                "begins at -2.000 m");
 }
 
@@ -76,7 +76,7 @@ TEST(GroundChecks, LetTheLibraryJoinLevelsThatAreNear) {
 }
 
 TEST(GroundChecks, WantTheGroundToBeginAtTheHead) {
-  expect_error(levels_of({0.5}, -30), "ground.layers[0]", "begins at 0.500 m");
+  expect_found(levels_of({0.5}, -30), "ground.layers[0]", "begins at 0.500 m");
   const ReadingOutcome below = read(levels_of({-0.5}, -30));
   EXPECT_TRUE(below.project.has_value());
   ASSERT_THAT(below.remarks, SizeIs(1));
@@ -84,7 +84,7 @@ TEST(GroundChecks, WantTheGroundToBeginAtTheHead) {
 }
 
 TEST(GroundChecks, WantGroundBelowTheFoot) {
-  expect_error(levels_of({0}, -9), "ground", "ends at -9.000 m");
+  expect_found(levels_of({0}, -9), "ground", "ends at -9.000 m");
   const ReadingOutcome at_foot = read(levels_of({0, -5}, -10));
   EXPECT_TRUE(at_foot.project.has_value());
   ASSERT_THAT(at_foot.remarks, SizeIs(1));
@@ -93,7 +93,7 @@ TEST(GroundChecks, WantGroundBelowTheFoot) {
 
 TEST(GroundChecks, RefuseTopsThatDoNotGoDown) {
   EXPECT_FALSE(read(levels_of({0, -5, -3}, -30)).project.has_value());
-  expect_error(levels_of({0, 0}, -30), "ground.layers[0]", "without thickness");
+  expect_found(levels_of({0, 0}, -30), "ground.layers[0]", "without thickness");
 }
 
 // A slope of 1 in 10 from (0, 0): at the wall it stands at 0, not at the 0.01 mm of the cut.

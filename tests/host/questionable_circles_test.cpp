@@ -25,7 +25,7 @@ Json centre(double least, double largest) {
   return {{{"x_m", 0}, {"y_m", 5}, {"least_radius_m", least}, {"largest_radius_m", largest}}};
 }
 
-void expect_remark(const Json& project, const std::string& path, const std::string& message) {
+void expect_remark_upon(const Json& project, const std::string& path, const std::string& message) {
   const ReadingOutcome outcome = read(project);
   ASSERT_THAT(outcome.errors, IsEmpty());
   ASSERT_THAT(outcome.remarks, SizeIs(1));
@@ -38,22 +38,22 @@ TEST(QuestionableCircles, AreNoneOfThoseChosenFromTheGeometry) {
 }
 
 TEST(QuestionableCircles, HaveStripesWiderThanTheWallIsLong) {
-  expect_remark(searching({{"stripe_width_m", 10.5}}), "slope.stripe_width_m", "10.5");
+  expect_remark_upon(searching({{"stripe_width_m", 10.5}}), "slope.stripe_width_m", "10.5");
 }
 
 // The foot is 15 m below (0, 5). From 14 m to 16 m in steps of 1 m: the range is cut into 3 steps,
 // and the last radius is 16 - 2 / 3 = 15.33 m; from 14 m to 15 m into 2, and the last is 14.5 m.
 TEST(QuestionableCircles, StayAboveTheFoot) {
   Json slope = {{"radius_step_m", 1}, {"centres", centre(14, 15)}};
-  expect_remark(searching(slope), "slope", "below the foot");
+  expect_remark_upon(searching(slope), "slope", "below the foot");
   slope["centres"] = centre(14, 16);
   EXPECT_THAT(read(searching(slope)).remarks, IsEmpty());
 }
 
 // 30 m of ground in front: from (0, 5) to (-30, -4) are 31.3 m.
 TEST(QuestionableCircles, LeaveTheGround) {
-  expect_remark(searching({{"radius_step_m", 1}, {"centres", centre(14, 33)}}), "slope",
-                "leave the ground");
+  expect_remark_upon(searching({{"radius_step_m", 1}, {"centres", centre(14, 33)}}), "slope",
+                     "leave the ground");
 }
 
 TEST(QuestionableCircles, GoByBishopThroughASoilWithoutFriction) {
@@ -61,7 +61,7 @@ TEST(QuestionableCircles, GoByBishopThroughASoilWithoutFriction) {
   project["soils"][0]["friction_angle_deg"] = 0;
   project["soils"][0]["wall_friction_angle_deg"] = 0;
   project["soils"][0]["cohesion_kPa"] = 40;
-  expect_remark(project, "slope.method", "sand");
+  expect_remark_upon(project, "slope.method", "sand");
 }
 
 TEST(QuestionableCircles, DoNotMatterWhereNoneAreSearched) {
