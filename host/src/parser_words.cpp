@@ -42,9 +42,16 @@ constexpr std::array<Phrase, 7> labels{{{"Uso", "Usage"},
 
 constexpr Phrase commands{"Comandi", "Subcommands"};
 
-// The parser asks for the labels of everything but of groups of options.
+// The parser asks for the labels of everything but of groups of options, and puts a colon before a
+// choice even where no type stands before it.
 class HelpForm : public CLI::Formatter {
 public:
+  std::string make_option_opts(const CLI::Option* option) const override {
+    std::string told = Formatter::make_option_opts(option);
+    if (told.rfind(" :", 0) == 0) told.erase(1, 1);
+    return told;
+  }
+
   std::string make_group(std::string group, bool is_positional,
                          std::vector<const CLI::Option*> options) const override {
     return Formatter::make_group(get_label(group), is_positional, std::move(options));
