@@ -65,8 +65,9 @@ std::optional<Both> retold_by(const std::string& told, std::string_view in_itali
   const Form italian = form_of(in_italian);
   const Form english = form_of(in_english);
   for (const Form& form : {italian, english}) {
-    if (const auto arguments = arguments_of(told, form))
+    if (const auto arguments = arguments_of(told, form)) {
       return Both{filled(italian, *arguments), filled(english, *arguments)};
+    }
   }
   return std::nullopt;
 }
@@ -104,8 +105,9 @@ OrderedJson in_language(const OrderedJson& value, Language language) {
   if (both) return value[code_of(language)];
   OrderedJson copy = value;
   if (copy.is_structured()) {
-    for (OrderedJson& part : copy)
+    for (OrderedJson& part : copy) {
       part = in_language(part, language);
+    }
   }
   return copy;
 }

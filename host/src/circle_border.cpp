@@ -217,8 +217,9 @@ std::vector<std::string> border_warnings(const Project& project,
     names += (names.empty() ? "" : ", ") + result.getCombName();
   }
   std::vector<std::string> warnings;
-  for (const std::string& text : advices)
+  for (const std::string& text : advices) {
     warnings.push_back(phrase::circle_on_border.in(texts, combinations[text], text));
+  }
   return warnings;
 }
 

@@ -121,8 +121,9 @@ private:
     const Outcome outcome = analyse(job);
     const RunData data = run_data_of(*project, job, outcome, options_.texts);
     judge(data, options_.texts, result_);
-    for (const std::string& message : data.messages)
+    for (const std::string& message : data.messages) {
       result_.messages += with_name(file, message);
+    }
     if (options_.fail_below) {
       const std::string below = lines_below(data, *options_.fail_below, options_.texts);
       if (!below.empty()) result_.verdict = BatchVerdict::below_limit;
@@ -160,8 +161,9 @@ public:
       : options_(options),
         progress_(form_of(options.progress, err), options.texts, err),
         folders_(folder_names(options.project_files)) {
-    for (const std::string& file : options.project_files)
+    for (const std::string& file : options.project_files) {
       results_.emplace_back().file = file;
+    }
   }
 
   void run() {
@@ -222,8 +224,9 @@ private:
 std::vector<std::string> folder_names(const std::vector<std::string>& project_files) {
   std::vector<std::string> names;
   std::set<std::string> stems;
-  for (const std::string& file : project_files)
+  for (const std::string& file : project_files) {
     stems.insert(lower(stem_of(file)));
+  }
   std::set<std::string> taken;
   for (const std::string& file : project_files) {
     const std::string stem = stem_of(file);

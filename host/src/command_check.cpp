@@ -19,8 +19,9 @@ std::string counted(std::size_t number, Text one, Text many, const Texts& texts)
 int check_project_file(const CheckOptions& options, std::ostream& out, std::ostream& err) {
   const LoadedProject loaded = load_project(options.source, options.texts, err);
   if (loaded.project) {
-    for (const std::string& note : loaded.project->notes)
+    for (const std::string& note : loaded.project->notes) {
       out << note << "\n";
+    }
   }
   const std::string& file = options.source.project_file;
   const bool fine = loaded.errors == 0 && loaded.warnings == 0;

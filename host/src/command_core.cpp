@@ -47,8 +47,9 @@ int run_core(const CoreOptions& options, std::ostream& out, std::ostream& err) {
   } else {
     out << text;
   }
-  for (const xVeldError& message : outcome.messages)
+  for (const xVeldError& message : outcome.messages) {
     err << message.MakeErrStr() << "\n";
+  }
   return outcome.verdict == veldError ? exit_analysis_failed : exit_fine;
 }
 

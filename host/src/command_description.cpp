@@ -21,15 +21,17 @@ std::vector<std::string> choices_of(CLI::Option& option) {
   if (description.size() < 2 || description.front() != '{' || description.back() != '}') return {};
   std::istringstream words(description.substr(1, description.size() - 2));
   std::vector<std::string> choices;
-  for (std::string word; std::getline(words, word, ',');)
+  for (std::string word; std::getline(words, word, ',');) {
     choices.push_back(word);
+  }
   return choices;
 }
 
 std::string joined(const std::vector<std::string>& words) {
   std::string text;
-  for (const std::string& word : words)
+  for (const std::string& word : words) {
     text += (text.empty() ? "" : "|") + word;
+  }
   return text;
 }
 
@@ -38,10 +40,12 @@ OptionDescription described(CLI::Option& option) {
   result.description = option.get_description();
   result.choices = choices_of(option);
   result.repeats = option.get_expected_max() > 1;
-  for (const std::string& name : option.get_snames())
+  for (const std::string& name : option.get_snames()) {
     result.names.push_back("-" + name);
-  for (const std::string& name : option.get_lnames())
+  }
+  for (const std::string& name : option.get_lnames()) {
     result.names.push_back("--" + name);
+  }
   if (result.names.empty()) result.names.push_back(option.get_name(true));
   if (option.get_items_expected_max() > 0) {
     // A type is followed by what it is checked for, as "N:INT in [1 - 9]".
@@ -63,8 +67,9 @@ CommandDescription description_of(CLI::App& app) {
     auto& list = option->get_positional() ? command.places : command.options;
     list.push_back(std::move(description));
   }
-  for (CLI::App* each : app.get_subcommands([](CLI::App*) { return true; }))
+  for (CLI::App* each : app.get_subcommands([](CLI::App*) { return true; })) {
     command.commands.push_back(description_of(*each));
+  }
   return command;
 }
 

@@ -28,8 +28,9 @@ int export_project(const ExportOptions& options, std::ostream& out, std::ostream
   }
   const Job job = to_job(*project);
   const Outcome outcome = analyse(job);
-  for (const std::string& message : messages_of(*project, job, outcome, options.texts))
+  for (const std::string& message : messages_of(*project, job, outcome, options.texts)) {
     err << fitted(message, columns_of(message)) << "\n";
+  }
   if (!exports.write(*project, job, outcome)) return exit_bad_input;
   return outcome.verdict == veldError ? exit_analysis_failed : exit_fine;
 }

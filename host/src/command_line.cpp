@@ -99,8 +99,9 @@ public:
     choose_language(is_core ? core_options_.texts.language() : texts_.language());
     if (is_core) return run_core(core_options_, out_, err_);
     if (expand_->parsed()) return expand_project_file(check_options_, out_, err_);
-    if (schema_->parsed())
+    if (schema_->parsed()) {
       return print(which_schema_ == "results" ? results_schema() : project_schema());
+    }
     if (completion_->parsed()) return print(completion());
     if (manual_->parsed()) return print(manual_page(description_of(app_), texts_));
     std::ostream nowhere(nullptr);

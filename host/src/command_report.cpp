@@ -51,8 +51,9 @@ int report_project(const ReportOptions& options, std::ostream& out, std::ostream
   }
   const Job job = to_job(*project);
   const Outcome outcome = analyse(job);
-  for (const std::string& message : messages_of(*project, job, outcome, options.texts))
+  for (const std::string& message : messages_of(*project, job, outcome, options.texts)) {
     err << fitted(message, columns_of(message)) << "\n";
+  }
   if (!write_report(options.report_file, *project, job, outcome, options.texts, out, err)
       || !exports.write(*project, job, outcome)) {
     return exit_bad_input;

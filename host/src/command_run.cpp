@@ -81,17 +81,20 @@ private:
                                    {"--report", options_.report_file},
                                    {"-o", options_.folder}};
     if (!options_.folder.empty()) {
-      for (const char* name : {"result.json", "tables.json"})
+      for (const char* name : {"result.json", "tables.json"}) {
         outputs.push_back({"-o", (std::filesystem::path(options_.folder) / name).string()});
+      }
     }
     if (!outputs_differ(source, options_.exports, outputs, options_.texts, err_)) return false;
     if (!options_.folder.empty()) {
-      if (const auto error = prepare_results(options_.folder))
+      if (const auto error = prepare_results(options_.folder)) {
         return cannot_write(options_.folder, error);
+      }
     }
     if (!options_.results_file.empty()) {
-      if (const auto error = try_writing(options_.results_file))
+      if (const auto error = try_writing(options_.results_file)) {
         return cannot_write(options_.results_file, error);
+      }
     }
     return may_write_report(options_.report_file, options_.texts, err_) && exports_.ready();
   }
@@ -108,8 +111,10 @@ private:
       if (!warning.empty()) err_ << fitted(warning, columns_of(warning)) << "\n";
     }
     if (!options_.results_file.empty()) {
-      if (const auto error = write_whole(options_.results_file, saved_bytes(data, outcome.results)))
+      if (const auto error =
+              write_whole(options_.results_file, saved_bytes(data, outcome.results))) {
         return cannot_write(options_.results_file, error);
+      }
       out_ << "\n" << options_.texts(Text::saved_to, options_.results_file) << "\n";
     }
     return write_report(options_.report_file, project, job, outcome, options_.texts, out_, err_)

@@ -13,8 +13,9 @@ constexpr const char* folder_value = "DIR";
 
 std::string joined(const std::vector<std::string>& words, const char* between) {
   std::string text;
-  for (const std::string& word : words)
+  for (const std::string& word : words) {
     text += (text.empty() ? "" : between) + word;
+  }
   return text;
 }
 
@@ -28,8 +29,9 @@ std::vector<OptionDescription> options_in(const CommandDescription& program,
   std::vector<OptionDescription> options = command.options;
   for (const OptionDescription& option : program.options) {
     bool there = false;
-    for (const OptionDescription& own : command.options)
+    for (const OptionDescription& own : command.options) {
       there = there || own.names == option.names;
+    }
     if (!there) options.push_back(option);
   }
   return options;
@@ -37,15 +39,17 @@ std::vector<OptionDescription> options_in(const CommandDescription& program,
 
 std::string names_of(const std::vector<OptionDescription>& options) {
   std::string names;
-  for (const OptionDescription& option : options)
+  for (const OptionDescription& option : options) {
     names += (names.empty() ? "" : " ") + joined(option.names, " ");
+  }
   return names;
 }
 
 std::vector<std::string> command_names(const CommandDescription& program) {
   std::vector<std::string> names;
-  for (const CommandDescription& command : program.commands)
+  for (const CommandDescription& command : program.commands) {
     names.push_back(command.name);
+  }
   return names;
 }
 
@@ -62,8 +66,9 @@ std::string bash_cases(const CommandDescription& program, const CommandDescripti
   for (const OptionDescription& option : options_in(program, command)) {
     if (!option.takes_value()) continue;
     std::string patterns;
-    for (const std::string& word : option.names)
+    for (const std::string& word : option.names) {
       patterns += fmt::format("{}{}/{}", patterns.empty() ? "" : " | ", name, word);
+    }
     cases += fmt::format("    {}) reply {} ;;\n", patterns, bash_values(option));
   }
   return cases;
@@ -107,10 +112,12 @@ std::string zsh_place(const OptionDescription& place) {
 
 std::string zsh_command(const CommandDescription& program, const CommandDescription& command) {
   std::string text = fmt::format("        {})\n          _arguments", command.name);
-  for (const OptionDescription& option : options_in(program, command))
+  for (const OptionDescription& option : options_in(program, command)) {
     text += " \\\n            " + zsh_argument(option);
-  for (const OptionDescription& place : command.places)
+  }
+  for (const OptionDescription& place : command.places) {
     text += " \\\n            " + zsh_place(place);
+  }
   return text + "\n          ;;\n";
 }
 
@@ -132,8 +139,9 @@ std::string fish_values(const OptionDescription& option) {
 
 std::string fish_option(const OptionDescription& option, const std::string& where) {
   std::string text = "complete -c ostrel" + where;
-  for (const std::string& name : option.names)
+  for (const std::string& name : option.names) {
     text += name.starts_with("--") ? " -l " + name.substr(2) : " -s " + name.substr(1);
+  }
   if (option.takes_value()) text += fish_values(option);
   return text + " -d " + fish_quoted(option.description) + "\n";
 }
@@ -206,8 +214,9 @@ complete -o filenames -F _ostrel ostrel
 
 std::string zsh_completion(const CommandDescription& program) {
   std::string options;
-  for (const OptionDescription& option : program.options)
+  for (const OptionDescription& option : program.options) {
     options += fmt::format("    {} \\\n", zsh_argument(option));
+  }
   std::string names;
   std::string commands;
   for (const CommandDescription& command : program.commands) {
@@ -270,14 +279,16 @@ end
 complete -c ostrel -f
 )",
                                  value_names(program.options));
-  for (const OptionDescription& option : program.options)
+  for (const OptionDescription& option : program.options) {
     text += fish_option(option, "");
+  }
   for (const CommandDescription& command : program.commands) {
     text += fmt::format("complete -c ostrel -n \"__ostrel_in ''\" -a {} -d {}\n", command.name,
                         fish_quoted(command.description));
     const std::string where = fmt::format(" -n '__ostrel_in {}'", command.name);
-    for (const OptionDescription& option : command.options)
+    for (const OptionDescription& option : command.options) {
       text += fish_option(option, where);
+    }
     text += fish_places(program, command);
   }
   return text;

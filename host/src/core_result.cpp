@@ -13,8 +13,9 @@ using Json = nlohmann::ordered_json;
 
 Json points_of(const xDiagram& diagram) {
   Json points = Json::array();
-  for (const diag_Point& point : diagram.points)
+  for (const diag_Point& point : diagram.points) {
     points.push_back({point.s, point.value});
+  }
   return points;
 }
 
@@ -22,8 +23,9 @@ Json pressures_of(const std::vector<xLayerPress>& diagrams) {
   Json list = Json::array();
   for (const xLayerPress& diagram : diagrams) {
     Json points = Json::array();
-    for (const diag_Point& point : diagram.points)
+    for (const diag_Point& point : diagram.points) {
       points.push_back({point.s, point.value});
+    }
     list.push_back({{"start_y", diagram.start.y},
                     {"end_y", diagram.end.y},
                     {"points", std::move(points)},
@@ -38,8 +40,9 @@ Json load_pressures_of(const std::vector<xLoadCondPress>& conditions) {
   Json list = Json::array();
   for (const xLoadCondPress& condition : conditions) {
     Json loads = Json::array();
-    for (const xLoadPress& load : condition.loads)
+    for (const xLoadPress& load : condition.loads) {
       loads.push_back(pressures_of(load.diagrams));
+    }
     list.push_back({{"name", condition.name}, {"loads", std::move(loads)}});
   }
   return list;
@@ -153,14 +156,17 @@ Json layers_of(const xSheetpilingModel& model) {
 
 Json mesh_of(const xSheetpilingModel& model) {
   Json nodes = Json::array();
-  for (const xPoint2d& node : model.fem.nodes)
+  for (const xPoint2d& node : model.fem.nodes) {
     nodes.push_back(node.y);
+  }
   Json lengths = Json::array();
-  for (const xElemData& element : model.fem.elements)
+  for (const xElemData& element : model.fem.elements) {
     lengths.push_back(element.getL());
+  }
   Json anchor_nodes = Json::array();
-  for (const info_Fem_anchor& anchor : model.anchors)
+  for (const info_Fem_anchor& anchor : model.anchors) {
     anchor_nodes.push_back(anchor.node);
+  }
   return {{"nodes", std::move(nodes)},
           {"element_L", std::move(lengths)},
           {"jtsoil", model.fem.getJtsoil()},

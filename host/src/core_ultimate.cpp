@@ -17,8 +17,9 @@ using Json = nlohmann::ordered_json;
 template <class T, class Entry>
 Json list_of(const std::vector<T>& elements, const Entry& entry) {
   Json list = Json::array();
-  for (const T& element : elements)
+  for (const T& element : elements) {
     list.push_back(entry(element));
+  }
   return list;
 }
 

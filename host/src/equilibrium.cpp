@@ -52,8 +52,9 @@ ForceSum loads_of(const xFemResults& results) {
 
 NodeForces soil_forces(const xFemResults& results) {
   NodeForces forces;
-  for (const auto& [node, force] : results.soilForces)
+  for (const auto& [node, force] : results.soilForces) {
     forces[node].y += force.springForce;
+  }
   return forces;
 }
 
@@ -121,8 +122,9 @@ ForceSum& ForceSum::operator+=(const ForceSum& other) {
 
 ForceSum Balance::residual() const {
   ForceSum sum = loads;
-  for (const ForceSum* part : {&soil, &anchors, &elastic_supports, &fixed_supports})
+  for (const ForceSum* part : {&soil, &anchors, &elastic_supports, &fixed_supports}) {
     sum += *part;
+  }
   return sum;
 }
 
@@ -152,8 +154,9 @@ NodeForces fixed_support_forces(const Job& job, const Outcome& outcome,
   NodeForces others = soil_forces(results);
   for (const NodeForces& part :
        {anchor_forces(job, outcome, results), elastic_forces(outcome.model.fem, results)}) {
-    for (const auto& [node, force] : part)
+    for (const auto& [node, force] : part) {
       others[node] += force;
+    }
   }
   return fixed_forces(outcome.model.fem, results, others);
 }

@@ -22,8 +22,9 @@ constexpr std::size_t longest_shown = 60;  // characters of a value that a messa
 // How many letters have to change, come or go to turn one name into the other.
 std::size_t edit_distance(const std::string& a, const std::string& b) {
   std::vector<std::size_t> row(b.size() + 1);
-  for (std::size_t j = 0; j <= b.size(); ++j)
+  for (std::size_t j = 0; j <= b.size(); ++j) {
     row[j] = j;
+  }
   for (std::size_t i = 1; i <= a.size(); ++i) {
     std::size_t diagonal = std::exchange(row[0], i);
     for (std::size_t j = 1; j <= b.size(); ++j) {

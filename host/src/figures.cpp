@@ -73,8 +73,9 @@ const std::vector<Quantity>& quantities() {
 
 Line line_of(const xDiagram& diagram, double scale) {
   Line line;
-  for (const diag_Point& point : diagram.points)
+  for (const diag_Point& point : diagram.points) {
     line.add(point.value * scale, m_of_mm(point.s));
+  }
   return line;
 }
 
@@ -89,11 +90,13 @@ public:
 
   std::vector<Figure> all() {
     if (outcome_.results.combResults.size() > 1) draw_together();
-    for (const xCombResults& combination : outcome_.results.combResults)
+    for (const xCombResults& combination : outcome_.results.combResults) {
       draw(combination);
+    }
     draw_reinforcement();
-    for (const xSlopeStability& result : slope_results(outcome_))
+    for (const xSlopeStability& result : slope_results(outcome_)) {
       draw_centres(result);
+    }
     return std::move(figures_);
   }
 
@@ -134,8 +137,9 @@ private:
 
   void draw(const xCombResults& combination) {
     draw_pressures(combination);
-    for (std::size_t i = 0; i < quantities().size(); ++i)
+    for (std::size_t i = 0; i < quantities().size(); ++i) {
       draw_quantity(combination, quantities()[i], colour_of(i));
+    }
     draw_reaction(combination);
     for (const xBendShearCombResults& result :
          outcome_.ultimate.structuralDesign.bendShear.combinations) {
@@ -177,8 +181,9 @@ private:
     add_line({"Terreno", "Soil"}, combination.earthPress.diagrams);
     add_line({"Acqua", "Water"}, combination.hydroPress.diagrams);
     for (const xLoadCondPress& condition : combination.loadCondPress) {
-      for (const xLoadPress& load : condition.loads)
+      for (const xLoadPress& load : condition.loads) {
         add_line(same(condition.name), load.diagrams);
+      }
     }
     const Both name{"Pressione", "Pressure"};
     add(combination.getcombIndex(), "pressures",
@@ -219,8 +224,9 @@ private:
   // Limits grow with depth far beyond what is used: the reaction decides what is in view.
   static OrderedJson reach_of(const Line& line) {
     double reach = 0.0;
-    for (const double value : line.x)
+    for (const double value : line.x) {
       reach = std::max(reach, std::abs(value));
+    }
     return reach > 0.0 ? OrderedJson({-1.6 * reach, 1.6 * reach}) : OrderedJson({-1.0, 1.0});
   }
 
@@ -325,8 +331,9 @@ private:
     Line line;
     for (const xBoundSoilLayer& layer : job_.data.soilLayers) {
       for (const auto& polygon : layer.polygons) {
-        for (const auto& vertex : polygon)
+        for (const auto& vertex : polygon) {
           line.add(m_of_mm(vertex(0)), m_of_mm(vertex(1)));
+        }
         line.add(std::nan(""), std::nan(""));
       }
     }

@@ -23,8 +23,9 @@ std::string names_of_cohesive_soils(const Project& project) {
     }
   }
   std::string names;
-  for (const std::size_t soil : found)
+  for (const std::size_t soil : found) {
     names += (names.empty() ? "" : ", ") + project.soils[soil].name;
+  }
   return names;
 }
 

@@ -108,8 +108,9 @@ private:
 
 std::optional<LayerSpan> span_at_wall(const xBoundSoilLayer& layer) {
   std::vector<double> elevations;
-  for (const auto& polygon : layer.polygons)
+  for (const auto& polygon : layer.polygons) {
     add_crossings(polygon, elevations);
+  }
   if (elevations.size() < 2) return std::nullopt;
   const auto [bottom, top] = std::minmax_element(elevations.begin(), elevations.end());
   return LayerSpan{.top = *top, .bottom = *bottom};

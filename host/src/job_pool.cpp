@@ -27,8 +27,9 @@ public:
     } else {
       look_on();
     }
-    for (std::thread& thread : threads_)
+    for (std::thread& thread : threads_) {
       thread.join();
+    }
     task_.watch();
   }
 

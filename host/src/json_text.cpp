@@ -204,8 +204,9 @@ private:
   std::string before(std::size_t place) const {
     constexpr std::size_t longest = 40;  // bytes
     std::string_view line = text_.substr(0, place + 1);
-    while (line.ends_with('\n') || line.ends_with('\r'))
+    while (line.ends_with('\n') || line.ends_with('\r')) {
       line.remove_suffix(1);
+    }
     const std::size_t end = line.find_last_of('\n');
     if (end != std::string_view::npos) line.remove_prefix(end + 1);
     line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
@@ -278,8 +279,9 @@ std::optional<std::string> read_file(const std::string& file, Problems& problems
     return std::nullopt;
   };
   std::error_code code;
-  if (std::filesystem::is_directory(file, code))
+  if (std::filesystem::is_directory(file, code)) {
     return cannot(make_error_code(std::errc::is_a_directory));
+  }
   errno = 0;
   std::ifstream stream(file, std::ios::binary);
   if (!stream) return cannot(last_error());
@@ -340,8 +342,9 @@ std::map<std::string, std::size_t> find_lines(std::string_view text,
                                               const std::set<std::string>& paths) {
   std::set<std::string> wanted = paths;
   for (const std::string& path : paths) {
-    for (const std::string& around : paths_around(path))
+    for (const std::string& around : paths_around(path)) {
       wanted.insert(around);
+    }
   }
   LineCounter::Place place;
   LineFinder finder(wanted, place);

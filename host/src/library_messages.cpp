@@ -33,11 +33,13 @@ std::string text_of_code(int code) {
 void learn_texts_of_codes() {
   std::map<int, Both>& texts = texts_of_codes();
   ostrel::set_language(code_of(Language::italian));
-  for (int code = first_code; code <= last_code; ++code)
+  for (int code = first_code; code <= last_code; ++code) {
     texts[code].italian = text_of_code(code);
+  }
   ostrel::set_language(code_of(Language::english));
-  for (int code = first_code; code <= last_code; ++code)
+  for (int code = first_code; code <= last_code; ++code) {
     texts[code].english = text_of_code(code);
+  }
 }
 
 std::string in_english(const std::string& before) {

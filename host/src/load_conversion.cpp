@@ -86,8 +86,9 @@ std::vector<xLoadCond> to_conditions(const LoadInput& input) {
       conditions[i].soilLoads.back()->setObjectID(1, conditions[i].name);
     }
   }
-  for (const WallLoadInput& entry : input.on_wall)
+  for (const WallLoadInput& entry : input.on_wall) {
     add_wall_load(entry, conditions.front());
+  }
   return conditions;
 }
 
@@ -104,8 +105,9 @@ xLoadComb to_combination(const CombinationInput& input, const std::vector<LoadIn
     combination.geoFactors.push_back({.first = first, .second = second});
   }
   combination.ulsFactors = input.resistance_factors;
-  for (const pCheckTypes check : input.checks)
+  for (const pCheckTypes check : input.checks) {
     combination.checks[check] = true;
+  }
   const std::array<const ActionInput*, 3> fixed{&input.self_weight, &input.earth_pressure,
                                                 &input.water_pressure};
   for (std::size_t i = 0; i < fixed.size(); ++i) {

@@ -40,21 +40,25 @@ std::string slanted(std::string_view text) {
 
 std::string option_entry(const OptionDescription& option) {
   std::string names;
-  for (const std::string& name : option.names)
+  for (const std::string& name : option.names) {
     names += (names.empty() ? "" : ", ") + bold(name);
+  }
   if (option.takes_value()) names += " " + slanted(option.value);
   return ".TP\n" + names + "\n" + plain(option.description) + "\n";
 }
 
 std::string command_entry(const CommandDescription& program, const CommandDescription& command) {
   std::string line = bold(program.name) + " " + bold(command.name);
-  for (const OptionDescription& place : command.places)
+  for (const OptionDescription& place : command.places) {
     line += " " + slanted(place.names.at(0)) + (place.repeats ? " ..." : "");
+  }
   std::string text = ".SS " + line + "\n" + plain(command.description) + ".\n";
-  for (const OptionDescription& place : command.places)
+  for (const OptionDescription& place : command.places) {
     text += ".TP\n" + slanted(place.names.at(0)) + "\n" + plain(place.description) + "\n";
-  for (const OptionDescription& option : command.options)
+  }
+  for (const OptionDescription& option : command.options) {
     text += option_entry(option);
+  }
   return text;
 }
 
@@ -73,17 +77,20 @@ std::string manual_page(const CommandDescription& program, const Texts& texts) {
   text += section(phrase::manual_synopsis);
   for (const CommandDescription& command : program.commands) {
     text += bold(program.name) + " " + bold(command.name);
-    for (const OptionDescription& place : command.places)
+    for (const OptionDescription& place : command.places) {
       text += " " + slanted(place.names.at(0)) + (place.repeats ? " ..." : "");
+    }
     text += "\n.br\n";
   }
   text += section(phrase::manual_description) + plain(phrase::manual_program.in(texts)) + "\n";
   text += section(phrase::manual_options);
-  for (const OptionDescription& option : program.options)
+  for (const OptionDescription& option : program.options) {
     text += option_entry(option);
+  }
   text += section(phrase::manual_commands);
-  for (const CommandDescription& command : program.commands)
+  for (const CommandDescription& command : program.commands) {
     text += command_entry(program, command);
+  }
   text += section(phrase::manual_exit_status) + entry("0", phrase::manual_exit_0.in(texts))
         + entry("1", phrase::manual_exit_1.in(texts)) + entry("2", phrase::manual_exit_2.in(texts))
         + entry("130", phrase::manual_exit_130.in(texts));

@@ -58,16 +58,18 @@ private:
 // @return its process, -1 where it cannot be started
 pid_t started(const std::vector<std::string>& arguments) {
   std::vector<char*> words;
-  for (const std::string& argument : arguments)
+  for (const std::string& argument : arguments) {
     words.push_back(const_cast<char*>(argument.c_str()));
+  }
   words.push_back(nullptr);
   posix_spawn_file_actions_t actions;
   posix_spawnattr_t attributes;
   posix_spawn_file_actions_init(&actions);
   posix_spawnattr_init(&attributes);
   posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-  for (const int handle : {STDOUT_FILENO, STDERR_FILENO})
+  for (const int handle : {STDOUT_FILENO, STDERR_FILENO}) {
     posix_spawn_file_actions_addopen(&actions, handle, "/dev/null", O_WRONLY, 0);
+  }
   posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
   posix_spawnattr_setpgroup(&attributes, 0);
   pid_t process = -1;
@@ -124,8 +126,9 @@ std::string found_browser() {
 
 std::string browser_names() {
   std::string names;
-  for (const char* browser : browsers)
+  for (const char* browser : browsers) {
     names += (names.empty() ? "" : ", ") + std::string(browser);
+  }
   return names;
 }
 

@@ -73,14 +73,16 @@ std::string refusal_of_arguments(const std::string& refusal, const Texts& texts)
 
 std::shared_ptr<CLI::Formatter> help_form(const Texts& texts) {
   auto form = std::make_shared<HelpForm>();
-  for (const Phrase& label : labels)
+  for (const Phrase& label : labels) {
     form->label(std::string(label.in(Texts(Language::english))), std::string(label.in(texts)));
+  }
   return form;
 }
 
 void head_commands(CLI::App& program, const Texts& texts) {
-  for (CLI::App* command : program.get_subcommands([](const CLI::App*) { return true; }))
+  for (CLI::App* command : program.get_subcommands([](const CLI::App*) { return true; })) {
     command->group(std::string(commands.in(texts)));
+  }
 }
 
 }  // namespace ostrel::host

@@ -19,8 +19,9 @@ public:
       : italian_(italian), english_(english) {
     for (const char* place : {"{0}", "{1}", "{2}", "{3}"}) {
       const bool in_italian = italian.find(place) != std::string_view::npos;
-      if (in_italian != (english.find(place) != std::string_view::npos))
+      if (in_italian != (english.find(place) != std::string_view::npos)) {
         throw std::logic_error(place);
+      }
     }
   }
 

@@ -15,8 +15,9 @@ constexpr double letters_px = 12.0;
 // JSON has no infinity; a gap is a null.
 OrderedJson finite(const std::vector<double>& values) {
   OrderedJson list = OrderedJson::array();
-  for (const double value : values)
+  for (const double value : values) {
     list.push_back(std::isfinite(value) ? OrderedJson(value) : OrderedJson());
+  }
   return list;
 }
 

@@ -67,8 +67,9 @@ void check_action_set(const ValueReader& value) {
 void check_soil_set(const ValueReader& value) {
   ObjectReader fields = value.object();
   check_source(fields);
-  for (const std::string& name : soil_factor_names())
+  for (const std::string& name : soil_factor_names()) {
     fields.number_or(name, 1.0, factor);
+  }
 }
 
 // One value, one for temporary and one for permanent anchors, or one for each way to make a pile.
@@ -79,8 +80,9 @@ void check_resistance(const ValueReader& value) {
     fields.number("permanent", factor);
     fields.number("temporary", factor);
   } else if (fields.optional("bored")) {
-    for (const char* way : {"driven", "bored", "augered"})
+    for (const char* way : {"driven", "bored", "augered"}) {
       fields.number(way, factor);
+    }
   } else {
     fields.number("value", factor);
   }
@@ -117,10 +119,12 @@ void check_combination(const ValueReader& value, const SetNames& sets) {
   if (const auto clause = fields.required("clause")) clause->text_not_empty();
   if (const auto actions = fields.required("actions")) check_action_names(*actions, sets.actions);
   if (const auto soil = fields.required("soil")) position_of(*soil, sets.soil);
-  for (const ValueReader& name : fields.items("resistances"))
+  for (const ValueReader& name : fields.items("resistances")) {
     position_of(name, sets.resistances);
-  for (const ValueReader& check : fields.items("checks"))
+  }
+  for (const ValueReader& check : fields.items("checks")) {
     check.choice(verification_names());
+  }
   fields.flag_or("always", false);
 }
 
@@ -131,8 +135,9 @@ void check_standard(const ValueReader& value) {
   sets.actions = check_sets(fields, "actions", check_action_set);
   sets.soil = check_sets(fields, "soil", check_soil_set);
   sets.resistances = check_sets(fields, "resistances", check_resistance_set);
-  for (const ValueReader& entry : fields.items("combinations"))
+  for (const ValueReader& entry : fields.items("combinations")) {
     check_combination(entry, sets);
+  }
 }
 
 }  // namespace
@@ -143,8 +148,9 @@ void check_presets(const Json& presets, Problems& problems) {
   fields.integer_or("format", 1, 1, 1);
   const auto standards = fields.required("standards");
   if (!standards) return;
-  for (const auto& [name, standard] : named_entries(*standards))
+  for (const auto& [name, standard] : named_entries(*standards)) {
     check_standard(standard);
+  }
 }
 
 }  // namespace ostrel::host

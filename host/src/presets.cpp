@@ -94,8 +94,9 @@ private:
                  {"actions", actions(row.at("actions"))},
                  {"checks", checks}};
     Json resistances = Json::object();
-    for (const Json& name : row.at("resistances"))
+    for (const Json& name : row.at("resistances")) {
       add_resistances(standard_.at("resistances").at(name.get<std::string>()), checks, resistances);
+    }
     if (!resistances.empty()) made["resistance_factors"] = std::move(resistances);
     if (seismic) made["seismic"] = true;
     if (!unconfirmed_.empty()) made["to_be_confirmed"] = unconfirmed_;
@@ -278,8 +279,9 @@ Expansion expand_presets(Json& project, const Json& presets, Problems& problems)
   const auto found = standards.find(wanted.get<std::string>());
   if (found == standards.end()) {
     std::vector<std::string> known;
-    for (const auto& [name, standard] : standards.items())
+    for (const auto& [name, standard] : standards.items()) {
       known.push_back(name);
+    }
     problems.add("standard", wanted.dump(),
                  problems.texts()(Text::one_of, fmt::format("\"{}\"", fmt::join(known, "\", \""))));
     return expansion;

@@ -72,10 +72,12 @@ std::string Problems::report(const std::string& file, std::string_view text) con
     return other == nullptr ? path : other->place;
   };
   std::set<std::string> paths;
-  for (const Problem& problem : errors_)
+  for (const Problem& problem : errors_) {
     paths.insert(place_in_text(problem.path));
-  for (const Remark& remark : remarks_)
+  }
+  for (const Remark& remark : remarks_) {
     paths.insert(place_in_text(remark.path));
+  }
   const std::map<std::string, std::size_t> lines = find_lines(text, paths);
   const auto place_of = [&](const std::string& path, std::size_t line) {
     const auto found = lines.find(place_in_text(path));
@@ -96,11 +98,13 @@ std::string Problems::report(const std::string& file, std::string_view text) con
     remarks.emplace(place.line, texts_(Text::warning_line, place.words, remark.message));
   }
   std::string report;
-  for (const auto& [line, message] : errors)
+  for (const auto& [line, message] : errors) {
     report += message + "\n";
+  }
   if (more_errors_ > 0) report += texts_(Text::more_errors, more_errors_) + "\n";
-  for (const auto& [line, message] : remarks)
+  for (const auto& [line, message] : remarks) {
     report += message + "\n";
+  }
   return report;
 }
 

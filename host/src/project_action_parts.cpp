@@ -59,8 +59,9 @@ WallLoadInput read_wall_load(const ValueReader& value) {
 // How many loads the project has: of equal names the first alone is in the list.
 std::size_t number_of(const Names& loads) {
   std::size_t number = 0;
-  for (const auto& [name, position] : loads)
+  for (const auto& [name, position] : loads) {
     number = std::max(number, position + 1);
+  }
   return number;
 }
 
@@ -155,8 +156,9 @@ void read_seismic(const ValueReader& value, const std::optional<SeismicSiteInput
 
 void read_actions(const ValueReader& value, const Names& loads, CombinationInput& combination) {
   ObjectReader fields = value.object();
-  if (const auto part = fields.optional("self_weight"))
+  if (const auto part = fields.optional("self_weight")) {
     combination.self_weight = read_action(*part);
+  }
   if (const auto part = fields.optional("earth_pressure")) {
     combination.earth_pressure = read_action(*part);
   }
@@ -236,8 +238,9 @@ CombinationInput read_combination(const ValueReader& value, const Names& loads,
   if (const auto part = fields.optional("actions")) read_actions(*part, loads, combination);
   if (const auto part = fields.unless_null("seismic")) read_seismic(*part, site, combination);
   if (const auto part = fields.optional("checks")) read_checks(*part, combination);
-  for (const ValueReader& entry : fields.items_or_none("to_be_confirmed"))
+  for (const ValueReader& entry : fields.items_or_none("to_be_confirmed")) {
     combination.to_be_confirmed.push_back(entry.text_not_empty());
+  }
   return combination;
 }
 

@@ -75,8 +75,9 @@ void check_wall(const Project& project, Problems& problems) {
 void check_soils(const Project& project, Problems& problems) {
   const Texts& texts = problems.texts();
   std::set<std::size_t> used;
-  for (const LayerInput& layer : project.ground.layers)
+  for (const LayerInput& layer : project.ground.layers) {
     used.insert(layer.soil);
+  }
   for (std::size_t i = 0; i < project.soils.size(); ++i) {
     const SoilInput& soil = project.soils[i];
     const std::string path = child_path("soils", i);

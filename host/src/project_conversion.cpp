@@ -51,8 +51,9 @@ Polygon closed(Polygon polygon) {
 
 Polygon to_polygon(const PolygonInput& vertices) {
   Polygon polygon;
-  for (const auto& [x, y] : vertices)
+  for (const auto& [x, y] : vertices) {
     polygon.push_back({level_mm_of_m(x), level_mm_of_m(y)});
+  }
   return closed(std::move(polygon));
 }
 

@@ -91,8 +91,9 @@ Names read_named_parts(ObjectReader& fields, Project& project) {
   if (const auto part = fields.required("ground")) project.ground = read_ground(*part, soils);
   Names loads;
   if (const auto part = fields.optional("loads")) {
-    for (const ValueReader& entry : part->items())
+    for (const ValueReader& entry : part->items()) {
       project.loads.push_back(read_load(entry));
+    }
     if (part->json().is_array()) loads = names_of(project.loads, part->items());
   }
   return loads;
@@ -153,8 +154,9 @@ std::vector<std::string> notes_of(const Expansion& expansion, const Project& pro
                           expansion.standard, added));
   }
   std::set<std::string> clauses;
-  for (const CombinationInput& combination : project.combinations)
+  for (const CombinationInput& combination : project.combinations) {
     clauses.insert(combination.to_be_confirmed.begin(), combination.to_be_confirmed.end());
+  }
   if (!clauses.empty()) {
     notes.push_back(texts(Text::standard_unconfirmed, fmt::format("{}", fmt::join(clauses, "; "))));
   }
@@ -175,8 +177,9 @@ void refuse_repeated_name(const ValueReader& entry, const std::string& name) {
 std::string known_names(const Names& names, const Texts& texts) {
   if (names.empty()) return std::string(texts(Text::no_names));
   std::vector<std::string> known;
-  for (const auto& [name, position] : names)
+  for (const auto& [name, position] : names) {
     known.push_back(name);
+  }
   return texts(Text::one_of, quoted_list(known));
 }
 

@@ -78,8 +78,9 @@ LayerInput read_layer(const ValueReader& value, const Names& soils, bool by_leve
 
 std::vector<SoilInput> read_soils(const ValueReader& value) {
   std::vector<SoilInput> soils;
-  for (const ValueReader& entry : value.items())
+  for (const ValueReader& entry : value.items()) {
     soils.push_back(read_soil(entry));
+  }
   if (value.json().is_array() && soils.empty()) {
     value.refuse(std::string(value.problems().texts()(Text::a_list_not_empty)));
   }

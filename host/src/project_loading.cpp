@@ -33,8 +33,9 @@ OrderedJson with_comments_first(const nlohmann::json& value) {
   if (!value.is_object()) return OrderedJson::parse(value.dump());
   OrderedJson ordered = OrderedJson::object();
   if (value.contains("comment")) ordered["comment"] = with_comments_first(value.at("comment"));
-  for (const auto& [name, entry] : value.items())
+  for (const auto& [name, entry] : value.items()) {
     ordered[name] = with_comments_first(entry);
+  }
   return ordered;
 }
 
@@ -59,8 +60,9 @@ std::vector<OddPlace> odd_places(const std::string& text, const Problems& told,
   const std::vector<Remark>& italian = (in_italian ? told : other).remarks();
   const std::vector<Remark>& english = (in_italian ? other : told).remarks();
   std::vector<OddPlace> places;
-  for (std::size_t i = 0; i < std::min(italian.size(), english.size()); ++i)
+  for (std::size_t i = 0; i < std::min(italian.size(), english.size()); ++i) {
     places.push_back({told.shown(english[i].path), italian[i].message, english[i].message});
+  }
   return places;
 }
 
@@ -94,16 +96,18 @@ std::optional<std::string> expanded_project(const ProjectSource& source, const T
   const auto project = text ? read_project(*text, problems, {.presets = &*presets}) : std::nullopt;
   err << problems.report(source.project_file, text ? *text : "");
   if (!project) return std::nullopt;
-  for (const std::string& note : project->notes)
+  for (const std::string& note : project->notes) {
     err << note << "\n";
+  }
   // The fields keep the order of the file.
   auto json = OrderedJson::parse(*text);
   nlohmann::json expanded = nlohmann::json::parse(*text);
   expand_presets(expanded, *presets, problems);
   json.erase("standard");
   OrderedJson& combinations = json["combinations"];
-  for (std::size_t i = combinations.size(); i < expanded.at("combinations").size(); ++i)
+  for (std::size_t i = combinations.size(); i < expanded.at("combinations").size(); ++i) {
     combinations.push_back(in_reading_order(expanded.at("combinations")[i]));
+  }
   return json.dump(2) + "\n";
 }
 

@@ -21,8 +21,9 @@ ReportTable::ReportTable(std::string id, Both caption, std::vector<ReportColumn>
 
 void ReportTable::add(std::vector<OrderedJson> cells) {
   OrderedJson row = OrderedJson::array();
-  for (const OrderedJson& value : cells)
+  for (const OrderedJson& value : cells) {
     row.push_back(cell(value));
+  }
   rows_.push_back(std::move(row));
 }
 

@@ -16,8 +16,9 @@ constexpr int given = digits_as_given;
 
 std::vector<ReportColumn> by_combination(const Project& project, const Both& first, int digits) {
   std::vector<ReportColumn> columns{{first}};
-  for (const CombinationInput& combination : project.combinations)
+  for (const CombinationInput& combination : project.combinations) {
     columns.push_back({same(combination.name), "", digits});
+  }
   return columns;
 }
 
@@ -194,8 +195,9 @@ OrderedJson check_table(const Project& project) {
     bool any = false;
     for (const CombinationInput& combination : project.combinations) {
       bool asked = false;
-      for (const pCheckTypes entry : combination.checks)
+      for (const pCheckTypes entry : combination.checks) {
         asked = asked || entry == check;
+      }
       any = any || asked;
       cells.emplace_back(asked ? "●" : "–");
     }

@@ -68,8 +68,9 @@ OrderedJson layer_table(const Project& project) {
                       {{{"Terreno", "Soil"}},
                        {{"Pendenza della superficie", "Slope of the surface"}, "°", given},
                        {{"Vertici x, y [m]", "Vertices x, y [m]"}}});
-    for (const LayerInput& layer : project.ground.layers)
+    for (const LayerInput& layer : project.ground.layers) {
       table.add({name_of_soil(layer), layer.surface_slope_deg, vertices_of(layer)});
+    }
     return table.block();
   }
   ReportTable table("layers", {"Strati alla paratia", "Layers at the wall"},

@@ -75,14 +75,16 @@ OrderedJson input_blocks(const Project& project) {
     add(anchor_table(project));
     add(bond_table(project));
   }
-  if (!project.fixed_supports.empty() || !project.elastic_supports.empty())
+  if (!project.fixed_supports.empty() || !project.elastic_supports.empty()) {
     add(support_table(project));
+  }
   if (!project.spring_intervals.empty()) add(spring_table(project));
   add(ground_load_table(project));
   add(wall_load_table(project));
   add(combination_table(project));
-  for (const std::string& note : project.notes)
+  for (const std::string& note : project.notes) {
     add(note_block(note_in_both(note)));
+  }
   add(action_table(project));
   add(soil_factor_table(project));
   add(resistance_factor_table(project));

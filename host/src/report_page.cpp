@@ -44,8 +44,9 @@ std::string data_text(const OrderedJson& data) {
 std::string filled(std::string_view page,
                    const std::map<std::string_view, std::string_view>& values) {
   std::size_t size = page.size();
-  for (const auto& [name, value] : values)
+  for (const auto& [name, value] : values) {
     size += value.size();
+  }
   std::string result;
   result.reserve(size);
   for (;;) {
@@ -105,10 +106,12 @@ OrderedJson result_blocks(const Project& project, const Job& job, const Outcome&
     blocks.push_back(note_block({"L'analisi ha segnalato un errore: i risultati non sono completi.",
                                  "The analysis reported an error: the results are not complete."}));
   }
-  if (OrderedJson verdict = verdict_block(outcome); !verdict.is_null())
+  if (OrderedJson verdict = verdict_block(outcome); !verdict.is_null()) {
     blocks.push_back(std::move(verdict));
-  for (OrderedJson& block : overview_blocks(project, job, outcome, figures))
+  }
+  for (OrderedJson& block : overview_blocks(project, job, outcome, figures)) {
     blocks.push_back(std::move(block));
+  }
   OrderedJson messages = message_block(project, job, outcome);
   if (!messages.is_null()) blocks.push_back(std::move(messages));
   return blocks;

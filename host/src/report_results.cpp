@@ -201,8 +201,9 @@ OrderedJson stretch_table(const xReinforcement& reinforcement, bool rectangle) {
   for (std::size_t first = 0; first < sections.size();) {
     const Bars bars = bars_of(*sections[first]);
     std::size_t next = first + 1;
-    while (next < sections.size() && bars_of(*sections[next]) == bars)
+    while (next < sections.size() && bars_of(*sections[next]) == bars) {
       ++next;
+    }
     const double end = m_of_mm(sections[next - 1]->getAbscissa());
     std::vector<OrderedJson> cells{m_of_mm(sections[first]->getAbscissa()), end, bars.uphill};
     if (rectangle) cells.emplace_back(bars.valley);

@@ -30,8 +30,9 @@ std::string slug(const std::string& name) {
       slug += '-';
     }
   }
-  while (!slug.empty() && slug.back() == '-')
+  while (!slug.empty() && slug.back() == '-') {
     slug.pop_back();
+  }
   return slug;
 }
 
@@ -70,11 +71,13 @@ std::vector<ResultFile> result_files(const Project& project, const Job& job, con
   std::vector<ResultFile> files{{"result.json", result_json(project, outcome)}};
   const Texts texts(language);
   const std::vector<ResultTable> tables = result_tables(project, job, outcome, texts);
-  for (const ResultTable& table : tables)
+  for (const ResultTable& table : tables) {
     files.push_back({file_name(table), csv_of(table)});
+  }
   files.push_back({"tables.json", tables_json(head_of(project, job, outcome, texts), tables)});
-  for (const Figure& figure : figures(project, job, outcome))
+  for (const Figure& figure : figures(project, job, outcome)) {
     files.push_back(figure_file(figure, language));
+  }
   return files;
 }
 

@@ -113,8 +113,9 @@ ResultTable pressure_table(const xCombResults& combination, const Texts& texts) 
   add_pressures(coded("water", phrase::water_pressure.in(texts)), combination.hydroPress.diagrams,
                 table);
   for (const xLoadCondPress& condition : combination.loadCondPress) {
-    for (const xLoadPress& load : condition.loads)
+    for (const xLoadPress& load : condition.loads) {
       add_pressures(text(condition.name), load.diagrams, table);
+    }
   }
   return table;
 }
@@ -244,8 +245,9 @@ void add_anchors(const Project& project, const Outcome& outcome, const Summary& 
     for (const double value :
          {anchor.depth_m, anchor.force_kN, anchor.horizontal_kN, anchor.vertical_kN,
           anchor.prestress_kN, anchor.stiffness_kN_m, anchor.share, anchor.head_displacement_mm,
-          anchor.head_settlement_mm})
+          anchor.head_settlement_mm}) {
       row.push_back(number(value));
+    }
     add_anchor_check(anchor_result(ultimate.structuralAnchorDesign.anchors, place, summary.index),
                      row);
     add_anchor_check(anchor_result(ultimate.geotechnicalAnchorDesign.anchors, place, summary.index),
@@ -312,11 +314,13 @@ std::vector<ResultTable> result_tables(const Project& project, const Job& job,
   std::vector<ResultTable> tables{std::move(summaries), verification_rows(outcome, texts),
                                   std::move(sections),  std::move(reinforcement),
                                   std::move(anchors),   std::move(equilibrium)};
-  for (ResultTable& table : of_each)
+  for (ResultTable& table : of_each) {
     tables.push_back(std::move(table));
+  }
   for (ResultTable& table : tables) {
-    for (Row& row : table.rows)
+    for (Row& row : table.rows) {
       row.resize(table.columns.size());
+    }
   }
   return tables;
 }
@@ -325,8 +329,9 @@ std::string csv_of(const ResultTable& table) {
   CsvTable csv(std::vector<std::string>(table.columns.begin(), table.columns.end()));
   for (const Row& row : table.rows) {
     std::vector<std::string> cells;
-    for (const TableCell& cell : row)
+    for (const TableCell& cell : row) {
       cells.push_back(csv_cell(cell));
+    }
     csv.add(cells);
   }
   return csv.text();

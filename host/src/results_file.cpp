@@ -41,8 +41,9 @@ public:
   template <class T, class Each>
   void list(std::vector<T>& entries, const Each& each) {
     ostrel::write_count(entries.size(), out_);
-    for (T& entry : entries)
+    for (T& entry : entries) {
       each(entry);
+    }
   }
   template <class T, class Each>
   void maybe(std::optional<T>& field, const Each& each) {
@@ -69,8 +70,9 @@ public:
   template <class T, class Each>
   void list(std::vector<T>& entries, const Each& each) {
     const int count = ostrel::read_count(in_);
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
       each(entries.emplace_back());
+    }
   }
   template <class T, class Each>
   void maybe(std::optional<T>& field, const Each& each) {
@@ -96,8 +98,9 @@ void pass(Way& way, Extreme& extreme) {
 template <class Way>
 void pass(Way& way, SpringState& spring) {
   for (double* field : {&spring.depth_m, &spring.modulus_kN_m3, &spring.limit_mm, &spring.limit_kPa,
-                        &spring.displacement_mm, &spring.pressure_kPa, &spring.use})
+                        &spring.displacement_mm, &spring.pressure_kPa, &spring.use}) {
     way.value(*field);
+  }
   way.value(spring.yields);
 }
 
@@ -105,8 +108,9 @@ template <class Way>
 void pass(Way& way, SupportState& support) {
   way.value(support.depth_m);
   for (std::optional<double>* part :
-       {&support.horizontal_kN, &support.vertical_kN, &support.moment_kNm})
+       {&support.horizontal_kN, &support.vertical_kN, &support.moment_kNm}) {
     way.maybe(*part, [&](double& value) { way.value(value); });
+  }
 }
 
 template <class Way>
@@ -114,8 +118,9 @@ void pass(Way& way, Summary& summary) {
   way.value(summary.name);
   way.value(summary.index);
   for (Extreme* extreme : {&summary.moment_kNm, &summary.shear_kN, &summary.axial_kN,
-                           &summary.displacement_mm, &summary.spring_use})
+                           &summary.displacement_mm, &summary.spring_use}) {
     pass(way, *extreme);
+  }
   way.value(summary.head_displacement_mm);
   way.value(summary.excavation_displacement_mm);
   way.value(summary.mobilised);
@@ -127,15 +132,18 @@ void pass(Way& way, Summary& summary) {
     auto place = static_cast<std::int64_t>(anchor.place);
     way.value(place);
     anchor.place = static_cast<std::size_t>(place);
-    for (double* field : {&anchor.depth_m, &anchor.force_kN, &anchor.horizontal_kN,
-                          &anchor.vertical_kN, &anchor.prestress_kN, &anchor.stiffness_kN_m,
-                          &anchor.share, &anchor.head_displacement_mm, &anchor.head_settlement_mm})
+    for (double* field :
+         {&anchor.depth_m, &anchor.force_kN, &anchor.horizontal_kN, &anchor.vertical_kN,
+          &anchor.prestress_kN, &anchor.stiffness_kN_m, &anchor.share, &anchor.head_displacement_mm,
+          &anchor.head_settlement_mm}) {
       way.value(*field);
+    }
   });
   Residual& residual = summary.residual;
   for (double* field : {&residual.towards_retained_kN, &residual.downwards_kN, &residual.moment_kNm,
-                        &residual.relative_to_loads})
+                        &residual.relative_to_loads}) {
     way.value(*field);
+  }
   way.list(summary.supports, [&](SupportState& support) { pass(way, support); });
 }
 
@@ -154,8 +162,9 @@ void pass(Way& way, SavedRun& run) {
   way.value(data.name);
   way.value(data.is_diaphragm);
   for (double* field : {&data.diameter_mm, &data.thickness_mm, &data.spacing_m, &data.length_m,
-                        &data.excavation_depth_m})
+                        &data.excavation_depth_m}) {
     way.value(*field);
+  }
   const auto text = [&](std::string& entry) { way.value(entry); };
   way.list(data.anchor_names, text);
   way.list(data.combinations, [&](CombinationData& combination) { pass(way, combination); });

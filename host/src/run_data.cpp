@@ -21,8 +21,9 @@ RunData run_data_of(const Project& project, const Job& job, const Outcome& outco
   data.spacing_m = wall.spacing_m;
   data.length_m = wall.length_m;
   data.excavation_depth_m = project.excavation_depth_m;
-  for (const AnchorInput& anchor : project.anchors)
+  for (const AnchorInput& anchor : project.anchors) {
     data.anchor_names.push_back(anchor.name);
+  }
   for (std::size_t i = 0; i < project.combinations.size(); ++i) {
     CombinationData combination;
     combination.name = project.combinations[i].name;
@@ -60,18 +61,21 @@ std::vector<std::string> result_warnings(const Project& project, const Job& job,
     if (!sentence.empty()) warnings.push_back(combination.getCombName() + ": " + sentence);
   }
   for (std::string& warning :
-       border_warnings(project, outcome.ultimate.slopeStabilityDesign, texts))
+       border_warnings(project, outcome.ultimate.slopeStabilityDesign, texts)) {
     warnings.push_back(std::move(warning));
+  }
   return warnings;
 }
 
 std::vector<std::string> messages_of(const Project& project, const Job& job, const Outcome& outcome,
                                      const Texts& texts) {
   std::vector<std::string> messages;
-  for (const xVeldError& message : outcome.messages)
+  for (const xVeldError& message : outcome.messages) {
     messages.push_back(message.MakeErrStr());
-  for (const std::string& warning : result_warnings(project, job, outcome, texts))
+  }
+  for (const std::string& warning : result_warnings(project, job, outcome, texts)) {
     messages.push_back(phrase::warning.in(texts, warning));
+  }
   return messages;
 }
 

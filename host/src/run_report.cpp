@@ -34,8 +34,9 @@ public:
 
   std::string text() {
     std::string report = head();
-    for (const CombinationData& combination : data_.combinations)
+    for (const CombinationData& combination : data_.combinations) {
       report += "\n" + text_of(combination);
+    }
     const xUltimateLimitStates& ultimate = data_.ultimate;
     for (const std::string& table :
          {section_table(ultimate.structuralDesign, texts_),

@@ -46,8 +46,9 @@ void make_whole(Json& value) {
     }
   }
   if (!value.is_structured()) return;
-  for (Json& entry : value)
+  for (Json& entry : value) {
     make_whole(entry);
+  }
 }
 
 // From {"<root>", "[soils]", "[0]"}: whether a name or an index is meant shows the value around it.

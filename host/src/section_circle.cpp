@@ -19,8 +19,9 @@ const xSlopeStability* worst_circle(const Outcome& outcome) {
   const xSlopeStability* worst = nullptr;
   for (const xSlopeStability& result : slope_results(outcome)) {
     const double factor = result.getSf();
-    if (factor < nothing_to_verify && (worst == nullptr || factor < worst->getSf()))
+    if (factor < nothing_to_verify && (worst == nullptr || factor < worst->getSf())) {
       worst = &result;
+    }
   }
   return worst;
 }
@@ -28,13 +29,15 @@ const xSlopeStability* worst_circle(const Outcome& outcome) {
 void draw_slip_circle(const SectionView& view, const Job& job, const xSlopeStability& circle,
                       Svg& svg) {
   for (const auto& stripe : circle.getStripesMin()) {
-    for (const xClipData& piece : stripe)
+    for (const xClipData& piece : stripe) {
       svg.path(view.outline(piece.polygon), true, "slice");
+    }
   }
   std::vector<std::vector<Spot>> ground;
   for (const xBoundSoilLayer& layer : job.data.soilLayers) {
-    for (const auto& polygon : layer.polygons)
+    for (const auto& polygon : layer.polygons) {
       ground.push_back(view.outline(polygon));
+    }
   }
   const stabChekData& data = circle.getstabChekData();
   svg.begin_clip("section-ground", ground);

@@ -37,8 +37,9 @@ void draw_dimensions(const SectionView& view, const Project& project, Svg& svg) 
   svg.dimension({inner, y(-depth)}, {inner, y(-length)},
                 with_metres("infissione", "embedment", length - depth));
   svg.dimension({outer, y(0.0)}, {outer, y(-length)}, with_metres("paratia", "wall", length));
-  for (const double level : {0.0, -depth, -length})
+  for (const double level : {0.0, -depth, -length}) {
     svg.text({reach, y(level) - 4.0}, decimals(level_text(level)), Hold::end, "level");
+  }
 }
 
 // A bar of a round length, about a fifth of the view.

@@ -36,8 +36,9 @@ std::vector<Stretch> ground_at(double x, const Job& job) {
         cuts.push_back(m_of_mm(polygon[k](1) + part * (polygon[k + 1](1) - polygon[k](1))));
       }
       std::sort(cuts.begin(), cuts.end());
-      for (std::size_t k = 0; k + 1 < cuts.size(); k += 2)
+      for (std::size_t k = 0; k + 1 < cuts.size(); k += 2) {
         stretches.push_back({.layer = i, .top = cuts[k + 1], .bottom = cuts[k]});
+      }
     }
   }
   return stretches;
@@ -101,8 +102,9 @@ private:
 void draw_layers(const SectionView& view, const Job& job, Svg& svg) {
   const auto& layers = job.data.soilLayers;
   for (std::size_t i = layers.size(); i-- > 0;) {
-    for (const auto& polygon : layers[i].polygons)
+    for (const auto& polygon : layers[i].polygons) {
       svg.path(view.outline(polygon), true, fmt::format("soil soil-{}", i % soil_styles));
+    }
   }
 }
 

@@ -98,15 +98,17 @@ void draw_wall_load(const std::string& name, const WallLoadInput& load, Spot pla
 void draw_ground_loads(const SectionView& view, const Project& project, Svg& svg) {
   std::size_t row = 0;
   for (const LoadInput& load : project.loads) {
-    for (const GroundLoadInput& part : load.on_ground)
+    for (const GroundLoadInput& part : load.on_ground) {
       draw_ground_load(view, load.name, part, row++, svg);
+    }
   }
 }
 
 void draw_wall_loads(const SectionView& view, const Project& project, Svg& svg) {
   for (const LoadInput& load : project.loads) {
-    for (const WallLoadInput& part : load.on_wall)
+    for (const WallLoadInput& part : load.on_wall) {
       draw_wall_load(load.name, part, view.at(0.0, part.level_m), svg);
+    }
   }
 }
 

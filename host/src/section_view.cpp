@@ -85,8 +85,9 @@ Window window_of(const Project& project, const Job& job, const xSlopeStability* 
 
 std::size_t count_of_ground_loads(const Project& project) {
   std::size_t count = 0;
-  for (const LoadInput& load : project.loads)
+  for (const LoadInput& load : project.loads) {
     count += load.on_ground.size();
+  }
   return count;
 }
 
@@ -110,8 +111,9 @@ Spot SectionView::at(double x, double y) const {
 std::vector<Spot> SectionView::outline(
     const std::vector<arma::Col<double>::fixed<2>>& polygon) const {
   std::vector<Spot> spots;
-  for (const auto& vertex : polygon)
+  for (const auto& vertex : polygon) {
     spots.push_back(at(m_of_mm(vertex(0)), m_of_mm(vertex(1))));
+  }
   return spots;
 }
 

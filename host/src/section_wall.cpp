@@ -49,8 +49,9 @@ void draw_support(const SupportInput& support, Spot tip, const char* style, Svg&
     svg.path({tip, {tip.x - 14, tip.y - 8}, {tip.x - 14, tip.y + 8}}, true, style);
     svg.line({tip.x - 17, tip.y - 9}, {tip.x - 17, tip.y + 9}, style);
   }
-  if (support.vertical)
+  if (support.vertical) {
     svg.path({tip, {tip.x - 8, tip.y + 14}, {tip.x + 8, tip.y + 14}}, true, style);
+  }
   if (support.rotation) svg.rectangle({tip.x - 5, tip.y - 5}, 10, 10, style);
 }
 
@@ -70,16 +71,19 @@ void draw_wall(const SectionView& view, const Project& project, Svg& svg) {
 }
 
 void draw_anchors(const SectionView& view, const Project& project, Svg& svg) {
-  for (const AnchorInput& anchor : project.anchors)
+  for (const AnchorInput& anchor : project.anchors) {
     draw_anchor(view, anchor, -thickness_m(project.wall) / 2.0, svg);
+  }
 }
 
 void draw_supports(const SectionView& view, const Project& project, Svg& svg) {
   const double face = -thickness_m(project.wall) / 2.0;
-  for (const SupportInput& support : project.fixed_supports)
+  for (const SupportInput& support : project.fixed_supports) {
     draw_support(support, view.at(face, support.level_m), "support", svg);
-  for (const SupportInput& support : project.elastic_supports)
+  }
+  for (const SupportInput& support : project.elastic_supports) {
     draw_support(support, view.at(face, support.level_m), "support elastic", svg);
+  }
 }
 
 }  // namespace ostrel::host

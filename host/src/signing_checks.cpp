@@ -113,8 +113,9 @@ private:
   double least_friction_deg(const SoilInput& soil) const {
     double factor = 1.0;
     for (const CombinationInput& combination : project_.combinations) {
-      for (const double one : combination.soil_factors[0])
+      for (const double one : combination.soil_factors[0]) {
         factor = std::max(factor, one);
+      }
     }
     return std::atan(std::tan(rad_of_deg(soil.friction_angle_deg)) / factor) / rad_of_deg(1.0);
   }

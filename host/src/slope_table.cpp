@@ -21,9 +21,10 @@ std::string circle_table(const xSlopeStabilityDesign& design, const Texts& texts
   table.add_column(std::string(texts(Text::heading_combination)), Side::left);
   table.add_column("xC [m]", Side::right);
   table.add_column("yC [m]", Side::right);
-  for (const Text heading :
-       {Text::heading_radius, Text::heading_resisting, Text::heading_driving, Text::heading_factor})
+  for (const Text heading : {Text::heading_radius, Text::heading_resisting, Text::heading_driving,
+                             Text::heading_factor}) {
     table.add_column(std::string(texts(heading)), Side::right);
+  }
   for (const xSlopeStability& result : design.getResults()) {
     table.add_row(
         {result.getCombName(), number_text(m_of_mm(result.getXC()), 2),

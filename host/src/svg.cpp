@@ -17,8 +17,9 @@ constexpr double tick = 4.0;
 
 std::string points_of(const std::vector<Spot>& points) {
   std::string text;
-  for (const Spot& point : points)
+  for (const Spot& point : points) {
     text += fmt::format("{}{:.2f},{:.2f}", text.empty() ? "" : " ", point.x, point.y);
+  }
   return text;
 }
 
@@ -106,8 +107,9 @@ void Svg::arrow(Spot from, Spot to, const char* style) {
 
 void Svg::dimension(Spot from, Spot to, const Both& words) {
   line(from, to, "dim");
-  for (const Spot& end : {from, to})
+  for (const Spot& end : {from, to}) {
     line({end.x - tick, end.y + tick}, {end.x + tick, end.y - tick}, "dim");
+  }
   const Spot middle{(from.x + to.x) / 2.0, (from.y + to.y) / 2.0};
   if (std::abs(to.x - from.x) > std::abs(to.y - from.y)) {
     text({middle.x, middle.y - 5.0}, words, Hold::middle, "dim-text");
@@ -144,8 +146,9 @@ void Svg::write_text(Spot at, const Both& words, const std::string& attributes, 
 
 void Svg::begin_clip(const std::string& id, const std::vector<std::vector<Spot>>& outlines) {
   body_ += fmt::format("<clipPath id=\"{}\">", id);
-  for (const std::vector<Spot>& outline : outlines)
+  for (const std::vector<Spot>& outline : outlines) {
     body_ += fmt::format("<polygon points=\"{}\"/>", points_of(outline));
+  }
   body_ += fmt::format("</clipPath>\n<g clip-path=\"url(#{})\">\n", id);
 }
 

@@ -36,8 +36,9 @@ Json rows_of(const ResultTable& table) {
   Json rows = Json::array();
   for (const auto& cells : table.rows) {
     Json row = Json::object();
-    for (std::size_t i = 0; i < table.columns.size(); ++i)
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
       row[std::string(table.columns[i])] = json_of(cells[i]);
+    }
     rows.push_back(std::move(row));
   }
   return rows;
@@ -50,8 +51,9 @@ TablesHead head_of(const Project& project, const Job& job, const Outcome& outcom
   TablesHead head{.project = project.name,
                   .through = outcome.verdict != veldError,
                   .messages = remarks_on(project, texts)};
-  for (std::string& message : messages_of(project, job, outcome, texts))
+  for (std::string& message : messages_of(project, job, outcome, texts)) {
     head.messages.push_back(std::move(message));
+  }
   return head;
 }
 

@@ -32,8 +32,9 @@ std::size_t bytes_of(const std::string& text, std::size_t columns) {
   std::size_t end = 0;
   for (std::size_t i = 0; i < columns && end < text.size(); ++i) {
     ++end;
-    while (end < text.size() && continues(text[end]))
+    while (end < text.size() && continues(text[end])) {
       ++end;
+    }
   }
   return end;
 }
@@ -95,8 +96,9 @@ std::string TextTable::render() const {
     total += column_widths[i] + (i > 0 ? gap : 0);
   }
   std::string text = line(headings, column_widths) + std::string(total, '-') + "\n";
-  for (const auto& row : rows_)
+  for (const auto& row : rows_) {
     text += line(row, column_widths);
+  }
   return text;
 }
 
@@ -105,8 +107,9 @@ std::vector<std::size_t> TextTable::widths() const {
   std::size_t total = 0;
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     std::size_t width = columns_of(columns_[i].heading);
-    for (const auto& row : rows_)
+    for (const auto& row : rows_) {
       width = std::max(width, columns_of(row[i]));
+    }
     widths.push_back(width);
     total += width + (i > 0 ? gap : 0);
   }
@@ -124,8 +127,9 @@ std::string TextTable::line(const std::vector<std::string>& cells,
   for (std::size_t i = 0; i < cells.size(); ++i) {
     text += std::string(i > 0 ? gap : 0, ' ') + padded(cells[i], widths[i], columns_[i].side);
   }
-  while (!text.empty() && text.back() == ' ')
+  while (!text.empty() && text.back() == ' ') {
     text.pop_back();
+  }
   return text + "\n";
 }
 

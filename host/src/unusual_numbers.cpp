@@ -24,13 +24,15 @@ public:
       judge(value, path);
     } else if (rest.starts_with("[]")) {
       if (!value.is_array()) return;
-      for (std::size_t i = 0; i < value.size(); ++i)
+      for (std::size_t i = 0; i < value.size(); ++i) {
         follow(value[i], after(rest, 2), child_path(path, i));
+      }
     } else if (value.is_object()) {
       const std::string name(rest.substr(0, rest.find_first_of(".[")));
       for (const auto& [key, entry] : value.items()) {
-        if (key == name || name == "*")
+        if (key == name || name == "*") {
           follow(entry, after(rest, name.size()), child_path(path, key));
+        }
       }
     }
   }
@@ -45,8 +47,9 @@ private:
 
   void judge(const Json& value, const std::string& path) const {
     if (value.is_array()) {
-      for (std::size_t i = 0; i < value.size(); ++i)
+      for (std::size_t i = 0; i < value.size(); ++i) {
         judge(value[i], child_path(path, i));
+      }
     }
     if (!value.is_number()) return;
     const double size = std::abs(value.get<double>());
@@ -210,8 +213,9 @@ const std::vector<UsualRange>& usual_ranges() {
 }
 
 void remark_upon_unusual_numbers(const Json& project, Problems& problems) {
-  for (const UsualRange& range : usual_ranges())
+  for (const UsualRange& range : usual_ranges()) {
     Search(range, problems).follow(project, range.field, "");
+  }
 }
 
 }  // namespace ostrel::host

@@ -30,8 +30,9 @@ std::string coloured_line(const std::string& line, const Texts& texts) {
 std::string with_coloured_verdicts(const std::string& text, const Texts& texts) {
   std::istringstream lines(text);
   std::string result;
-  for (std::string line; std::getline(lines, line);)
+  for (std::string line; std::getline(lines, line);) {
     result += coloured_line(line, texts) + "\n";
+  }
   return result;
 }
 

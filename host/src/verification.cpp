@@ -47,8 +47,9 @@ void consider(Found& found, double factor, const xCheckCombID& id, const Place& 
       found.by_combination.begin(), found.by_combination.end(), [&](const Verification& one) {
         return one.index == id.getCombIndex() && one.combination == id.getCombName();
       });
-  if (same == found.by_combination.end())
+  if (same == found.by_combination.end()) {
     same = found.by_combination.insert(same, Verification{.check = found.worst.check});
+  }
   consider(*same, factor, id, place);
 }
 
@@ -96,8 +97,9 @@ Found anchors_of(Check check, const Design& design) {
 
 Found bearing_of(const xGeotechnicalPileDesign& design) {
   Found found{.worst = {.check = Check::bearing}};
-  for (const xBearCapacityPile& result : design.results)
+  for (const xBearCapacityPile& result : design.results) {
     consider(found, result.getSf(), result, [] { return std::string(); });
+  }
   return found;
 }
 
@@ -129,8 +131,9 @@ Found cap_beam_of(const TraveResults& beam, const Texts& texts) {
 template <class Result>
 Found hydraulic_of(Check check, const std::vector<Result>& results) {
   Found found{.worst = {.check = check}};
-  for (const Result& result : results)
+  for (const Result& result : results) {
     consider(found, result.getSf(), result, [] { return std::string(); });
+  }
   return found;
 }
 
@@ -166,8 +169,9 @@ std::vector<Verification> verifications_of(const xUltimateLimitStates& ultimate,
                                            const xServiceabilityLimitStates& serviceability,
                                            const Texts& texts) {
   std::vector<Verification> list;
-  for (const Found& found : all_found(ultimate, serviceability, texts))
+  for (const Found& found : all_found(ultimate, serviceability, texts)) {
     list.push_back(found.worst);
+  }
   return list;
 }
 

@@ -33,8 +33,9 @@ public:
     if (wants(checkDisplacements) && !(project_.wall.head_limit_mm > 0.0)) {
       problems_.remark(child_path(path_, "checks"), std::string(texts_(Text::limits_not_given)));
     }
-    for (std::size_t i = 0; i < project_.anchors.size(); ++i)
+    for (std::size_t i = 0; i < project_.anchors.size(); ++i) {
       check_anchor(project_.anchors[i], child_path("anchors", i));
+    }
     if (wants(checkAnchorPullout) && !project_.anchors.empty()) {
       want_factor(factorAnchors, "anchors", "anchor_pull_out");
     }

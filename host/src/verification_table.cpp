@@ -86,8 +86,9 @@ std::string verification_table(const RunData& data, const Texts& texts) {
                    + table_of(verifications, texts) + notes_of(verifications, data.through, texts);
   const std::vector<std::string> failures = failures_of(data);
   if (!failures.empty()) text += "\n" + std::string(texts(Text::failures_title)) + "\n";
-  for (const std::string& failure : failures)
+  for (const std::string& failure : failures) {
     text += wrapped("  " + failure, terminal_width, 4) + "\n";
+  }
   return text;
 }
 

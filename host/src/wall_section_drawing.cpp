@@ -63,8 +63,9 @@ std::string circle_drawing(double diameter, double cover, xReinfCrossSection& se
   const Spot centre = drawing.at(0.0, 0.0);
   drawing.svg_.circle(centre, diameter / 2.0 * drawing.scale_, "concrete");
   const double stirrup = ring + bars.getDiameter() / 2.0;
-  if (section.getBracket().getDiameter() > 0.0)
+  if (section.getBracket().getDiameter() > 0.0) {
     drawing.svg_.circle(centre, stirrup * drawing.scale_, "stirrup");
+  }
   for (std::uint32_t i = 0; i < bars.getNumber(); ++i) {
     const double angle = 2.0 * std::numbers::pi * i / bars.getNumber();
     drawing.bar(ring * std::sin(angle), -ring * std::cos(angle), bars.getDiameter());
@@ -101,8 +102,9 @@ std::string rectangle_drawing(double width, double thickness, double cover,
   const xReinforcementBar& corners = section.AVerticeEff();
   if (corners.getNumber() >= 4) {
     for (const double x : {-reach, reach}) {
-      for (const double y : {-half, half})
+      for (const double y : {-half, half}) {
         drawing.bar(x, y, corners.getDiameter());
+      }
     }
   }
   const Spot corner = drawing.at(-width / 2.0, thickness / 2.0);

@@ -83,8 +83,9 @@ std::string section_table(const xStructuralDesign& design, const Texts& texts) {
   if (!has_sections(design)) return "";
   TextTable table;
   table.add_column(std::string(texts(Text::heading_combination)), Side::left);
-  for (const char* heading : {"z [m]", "N [kN]", "M [kNm]", "MRd [kNm]", "V [kN]", "VRd [kN]"})
+  for (const char* heading : {"z [m]", "N [kN]", "M [kNm]", "MRd [kNm]", "V [kN]", "VRd [kN]"}) {
     table.add_column(heading, Side::right);
+  }
   table.add_column(std::string(texts(Text::heading_factor)), Side::right);
   for (const xBendShearCombResults& combination : design.bendShear.combinations) {
     const xSectionCheck* worst = governing_section(combination);

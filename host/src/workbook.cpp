@@ -66,8 +66,9 @@ lxw_col_t column_number(std::size_t number) {
 std::string cell_text(const std::string& original) {
   const std::string text = fitted(original, columns_of(original));
   std::size_t end = std::min(text.size(), longest_text);
-  while (end > 0 && end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0u) == 0x80u)
+  while (end > 0 && end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0u) == 0x80u) {
     --end;
+  }
   return text.substr(0, end);
 }
 
@@ -105,8 +106,9 @@ public:
     keep(worksheet_set_column(sheet_, 0, column_number(table.columns.size() - 1), column_width,
                               nullptr));
     worksheet_freeze_panes(sheet_, 1, 0);
-    for (std::size_t i = 0; i < table.rows.size(); ++i)
+    for (std::size_t i = 0; i < table.rows.size(); ++i) {
       write_row(row_number(i + 1), table.rows[i]);
+    }
     if (!table.rows.empty()) add_charts();
   }
 
@@ -172,8 +174,9 @@ private:
     lxw_chart* chart = workbook_add_chart(book_, LXW_CHART_SCATTER_STRAIGHT);
     if (chart == nullptr) return keep(LXW_ERROR_MEMORY_MALLOC_FAILED);
     for (const std::string_view column : columns) {
-      for (const Stretch& stretch : stretches)
+      for (const Stretch& stretch : stretches) {
         add_series(*chart, column, stretch);
+      }
     }
     const std::string label(column_label(columns.front(), texts_));
     const std::string depth(column_label("depth_m", texts_));
@@ -181,8 +184,9 @@ private:
     chart_axis_set_name(chart->x_axis, label.c_str());
     chart_axis_set_name(chart->y_axis, depth.c_str());
     chart_axis_set_reverse(chart->y_axis);
-    if (columns.size() * stretches.size() == 1)
+    if (columns.size() * stretches.size() == 1) {
       chart_legend_set_position(chart, LXW_CHART_LEGEND_NONE);
+    }
     keep(worksheet_insert_chart(sheet_, next_chart_row_, column_number(table_.columns.size() + 1),
                                 chart));
     next_chart_row_ += chart_rows;

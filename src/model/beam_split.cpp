@@ -73,8 +73,9 @@ void split_element(std::int32_t element, double depth, xFemData& beam,
     below->setEndNode(++node);
   }
   for (auto* entries : {&beam.constrDof0, &beam.constrDof1, &beam.constrDof2, &beam.springDof0,
-                        &beam.springDof1, &beam.springDof2})
+                        &beam.springDof1, &beam.springDof2}) {
     shift_keys(start + 1, *entries);
+  }
 }
 
 std::int32_t find_or_make_node(double depth, double tolerance, xFemData& beam,

@@ -32,8 +32,9 @@ void sort_by_x(std::vector<Place>& points) {
   for (std::size_t i = 1; i < points.size(); ++i) {
     const Place moved = points[i];
     std::size_t k = i;
-    for (; k > 0 && left_of(moved, points[k - 1]); --k)
+    for (; k > 0 && left_of(moved, points[k - 1]); --k) {
       points[k] = points[k - 1];
+    }
     points[k] = moved;
   }
 }
@@ -60,8 +61,9 @@ bool surely_off(Place point, Place a, Place b) {
 /// The first side that holds a point, -1 for none.
 std::ptrdiff_t first_side_with(Place point, OutlineView outline) {
   for (std::size_t k = 0; k + 1 < outline.size(); ++k) {
-    if (pointOnSegment(point, outline[k], outline[k + 1], on_side, true, nullptr))
+    if (pointOnSegment(point, outline[k], outline[k + 1], on_side, true, nullptr)) {
       return static_cast<std::ptrdiff_t>(k);
+    }
   }
   return -1;
 }
@@ -72,13 +74,15 @@ std::ptrdiff_t first_side_with_crossing(Place point, OutlineView outline,
   std::size_t i = 0;
   while (i + 1 < buffers.crossings.size()
          && !(exactly_equal(buffers.crossings[i].x, point.x)
-              && exactly_equal(buffers.crossings[i].y, point.y)))
+              && exactly_equal(buffers.crossings[i].y, point.y))) {
     ++i;
+  }
   const std::size_t own_side = buffers.sides[i];
   for (std::size_t k = 0; k < own_side; ++k) {
     if (surely_off(point, outline[k], outline[k + 1])) continue;
-    if (pointOnSegment(point, outline[k], outline[k + 1], on_side, true, nullptr))
+    if (pointOnSegment(point, outline[k], outline[k + 1], on_side, true, nullptr)) {
       return static_cast<std::ptrdiff_t>(k);
+    }
   }
   return static_cast<std::ptrdiff_t>(own_side);
 }
@@ -128,8 +132,10 @@ void find_crossings_in_hurry(OutlineView outline, Place center, double radius, d
   }
   const double clear = clear_of_circle(radius, tol);
   for (std::size_t k = 0; k + 1 < outline.size(); ++k) {
-    if (surely_misses(outline[k], outline[k + 1], buffers.excess[k], buffers.excess[k + 1], clear))
+    if (surely_misses(outline[k], outline[k + 1], buffers.excess[k], buffers.excess[k + 1],
+                      clear)) {
       continue;
+    }
     segCircleIntersect(outline[k], outline[k + 1], center, radius, tol, buffers.crossings);
     buffers.sides.resize(buffers.crossings.size(), k);
   }
@@ -221,8 +227,9 @@ CutKind cut_by_circle(OutlineView outline, Place centroid, Place center, double 
   const bool below_centre =
       filterIntersections(crossing_tolerance, center, buffers.crossings, border);
   if (!below_centre && !border.empty()) return CutKind::above_centre;
-  if (border.size() < 2)
+  if (border.size() < 2) {
     return radius >= distance(center, centroid) ? CutKind::whole : CutKind::none;
+  }
   buffers.chord_length = distance(border[0], border[1]);
   buffers.chord_mid = {.x = 0.5 * (border[0].x + border[1].x),
                        .y = 0.5 * (border[0].y + border[1].y)};
@@ -272,8 +279,9 @@ bool sliceSeg::iIntersect(const arma::Col<double>::fixed<2>& center, double R,
   mergeCoincidentVertices(part, slope::coincidence);
   const osg::ref_ptr<sliceSeg> cut = new sliceSeg;
   if (!slope::initSlice(nullptr, part, clip.width, buffers.chord_length,
-                        slope::vector2(buffers.chord_mid), *cut))
+                        slope::vector2(buffers.chord_mid), *cut)) {
     return true;
+  }
   cut->clip.ownerFlag = clip.ownerFlag;
   cut->clip.hasLoad = clip.hasLoad;
   cut->clip.belowWater = clip.belowWater;

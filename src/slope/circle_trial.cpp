@@ -24,8 +24,9 @@ bool sides_are_regular(OutlineView outline) {
   for (std::size_t k = 0; k + 1 < outline.size(); ++k) {
     const double length = distance(outline[k], outline[k + 1]);
     if (!(length > shortest_side && length < longest_side)) return false;
-    if (!(std::abs(outline[k].x) < farthest_place && std::abs(outline[k].y) < farthest_place))
+    if (!(std::abs(outline[k].x) < farthest_place && std::abs(outline[k].y) < farthest_place)) {
       return false;
+    }
   }
   return true;
 }
@@ -44,8 +45,9 @@ void merge_coincident(Outline& outline) {
   for (std::size_t i = 1; i < outline.size(); ++i) {
     if (!near(outline[kept - 1], outline[i])) outline[kept++] = outline[i];
   }
-  while (kept > 1 && near(outline[kept - 1], outline.front()))
+  while (kept > 1 && near(outline[kept - 1], outline.front())) {
     --kept;
+  }
   outline.resize(kept);
   outline.push_back(outline.front());
 }
@@ -218,13 +220,15 @@ CircleTrial::Doubtful CircleTrial::doubtful_pieces(const StripeRange& stripe) co
   const double deepest = limit * (1.0 + clear) - nearest * nearest;
   const double shallowest = limit * (1.0 - clear) - farthest * farthest;
   const double outside = center_.y - std::sqrt(std::max(deepest, 0.0)) - level_clear;
-  while (doubtful.first < doubtful.end && tops_[doubtful.first] < outside)
+  while (doubtful.first < doubtful.end && tops_[doubtful.first] < outside) {
     ++doubtful.first;
+  }
   if (!(shallowest > 0.0)) return doubtful;
   const double inside = center_.y - std::sqrt(shallowest) + level_clear;
   doubtful.end = doubtful.first;
-  while (doubtful.end < stripe.end && bottoms_[doubtful.end] < inside)
+  while (doubtful.end < stripe.end && bottoms_[doubtful.end] < inside) {
     ++doubtful.end;
+  }
   return doubtful;
 }
 
@@ -257,8 +261,9 @@ bool CircleTrial::cut_piece(const Piece& piece, StripeCut& cut) {
   if (kind == CutKind::part) {
     const OutlineView outline = OutlineView(vertices_).subspan(piece.first, piece.vertices);
     if (piece.clean && cut_cleanly(outline, piece.centroid, rim_, kind, clean_cut_)) {
-      if (kind == CutKind::part)
+      if (kind == CutKind::part) {
         take_part(piece, clean_cut_.part(), clean_cut_.chord_mid, clean_cut_.chord_length, cut);
+      }
     } else {
       kind = cut_by_circle(outline, piece.centroid, center_, radius_, tolerance_, piece.regular,
                            buffers_);
@@ -348,8 +353,9 @@ void CircleTrial::add_moments(const StripeCut& cut, bool bishop, CircleMoments& 
 double CircleTrial::stripe_loads(const StripeCut& cut, actType act) const {
   xClipData& clip = cut.base->source->clip;
   if (!has_conditions_ || !takes_ground_loads(cut.base_mid.x, clip.width)) return 0.0;
-  if (!cut.base_is_whole && exactly_equal(cut.base_mid.x, cut.base->middle))
+  if (!cut.base_is_whole && exactly_equal(cut.base_mid.x, cut.base->middle)) {
     return cut.base->middle_loads[act == actFirst ? 0 : 1];
+  }
   const StripeLoads loads =
       loads_on_stripe(ground_loads_, cut.base_mid.x, clip.width, spacing_, act);
   return cut.base_is_whole ? note_loads(loads, act, clip) : loads.total();

@@ -72,8 +72,9 @@ bool find_passages(OutlineView outline, const Rim& rim, CleanCut& cut, Passages&
     const bool passes = (excess[k] < 0.0) != (excess[k - 1] < 0.0);
     if (!passes) {
       if (excess[k] > 0.0
-          && !stays_outside(outline[k - 1], outline[k], excess[k - 1], excess[k], rim.clear))
+          && !stays_outside(outline[k - 1], outline[k], excess[k - 1], excess[k], rim.clear)) {
         return false;
+      }
       continue;
     }
     if (passages.count == 2) return false;
@@ -129,8 +130,9 @@ bool is_clean(OutlineView outline) {
     if (!meet_openly(outline[next], outline[i], outline[next + 1])) return false;
     for (std::size_t k = i + 2; k < sides; ++k) {
       const bool neighbours = i == 0 && k + 1 == sides;
-      if (!neighbours && !apart(outline[i], outline[i + 1], outline[k], outline[k + 1]))
+      if (!neighbours && !apart(outline[i], outline[i + 1], outline[k], outline[k + 1])) {
         return false;
+      }
     }
   }
   return true;

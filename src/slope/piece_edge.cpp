@@ -17,8 +17,9 @@ constexpr double on_side = 1e-8;  // how near to a side is on it, in parts of it
 
 std::optional<std::size_t> side_with(Place point, const Outline& outline) {
   for (std::size_t k = 0; k + 1 < outline.size(); ++k) {
-    if (pointOnSegmentNoVertical(point, outline[k], outline[k + 1], on_side, true, nullptr))
+    if (pointOnSegmentNoVertical(point, outline[k], outline[k + 1], on_side, true, nullptr)) {
       return k;
+    }
   }
   return std::nullopt;
 }

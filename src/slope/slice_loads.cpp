@@ -31,20 +31,24 @@ std::array<double, 2> factors_of(const xAction& action) {
 
 std::optional<GroundLoad> ground_load(const xSoilLoad& load) {
   using Kind = GroundLoad::Kind;
-  if (const auto* uniform = dynamic_cast<const xUniformLoad*>(&load))
+  if (const auto* uniform = dynamic_cast<const xUniformLoad*>(&load)) {
     return GroundLoad{.kind = Kind::uniform, .start = uniform->getValue()};
-  if (const auto* strip = dynamic_cast<const xNastriformLoad*>(&load))
+  }
+  if (const auto* strip = dynamic_cast<const xNastriformLoad*>(&load)) {
     return GroundLoad{.kind = Kind::strip,
                       .position = strip->getPosition(),
                       .extension = strip->getExtension(),
                       .start = strip->getStartValue(),
                       .end = strip->getEndValue()};
-  if (const auto* line = dynamic_cast<const xLinearLoad*>(&load))
+  }
+  if (const auto* line = dynamic_cast<const xLinearLoad*>(&load)) {
     return GroundLoad{
         .kind = Kind::line, .position = line->getPosition(), .start = line->getValue()};
-  if (const auto* point = dynamic_cast<const xPuntiformLoad*>(&load))
+  }
+  if (const auto* point = dynamic_cast<const xPuntiformLoad*>(&load)) {
     return GroundLoad{
         .kind = Kind::point, .position = point->getPosition(), .start = point->getValue()};
+  }
   return std::nullopt;
 }
 

@@ -77,8 +77,9 @@ void clipStripe(const xPolyClipHelper& polygons, double x0, double x1, double ym
   for (Polygon& piece : pieces) {
     mergeCoincidentVertices(piece, coincidence);
     const osg::ref_ptr<sliceSeg> slice = new sliceSeg;
-    if (initSlice(&polygons, piece, x1 - x0, 0.0, Vector2{0.0, 0.0}, *slice))
+    if (initSlice(&polygons, piece, x1 - x0, 0.0, Vector2{0.0, 0.0}, *slice)) {
       stripe.push_back(slice);
+    }
   }
   sort_by_level(stripe);
 }

@@ -39,8 +39,9 @@ Stripe split(double level, const sliceSeg& whole) {
     const osg::ref_ptr<sliceSeg> piece = new sliceSeg;
     if (!initSlice(nullptr, part, whole.clip.width,
                    on_water ? whole.clip.width : whole.clip.baseLength,
-                   on_water ? surface_mid : whole.clip.baseMid, *piece))
+                   on_water ? surface_mid : whole.clip.baseMid, *piece)) {
       continue;
+    }
     piece->clip.soil = whole.clip.soil;
     piece->clip.belowWater = classifyAgainstWater(level, piece->clip) == WaterClass::below;
     pieces.push_back(piece);

@@ -13,8 +13,9 @@ namespace {
 template <class Design>
 void append_ids(const Design& design, std::vector<std::int64_t>& ids) {
   for (const auto& anchor : design.anchors) {
-    for (const auto& result : anchor.combinations)
+    for (const auto& result : anchor.combinations) {
       ids.push_back(result.getIdObj());
+    }
   }
 }
 

@@ -116,8 +116,9 @@ Geometry checked_overlay(const GEOSGeometry& a, const GEOSGeometry& b,
   if (result) return result;
   const Geometry first_mirrored = mirrored(a);
   const Geometry second_mirrored = mirrored(b);
-  if (first_mirrored && second_mirrored)
+  if (first_mirrored && second_mirrored) {
     result = believed(*first_mirrored, *second_mirrored, operation);
+  }
   return result ? mirrored(*result) : nullptr;
 }
 

@@ -94,8 +94,9 @@ Geometry covered_together(std::vector<Geometry> geometries) {
   if (geometries.size() == 1) return std::move(geometries.front());
   std::vector<GEOSGeometry*> parts;
   parts.reserve(geometries.size());
-  for (Geometry& each : geometries)
+  for (Geometry& each : geometries) {
     parts.push_back(each.release());
+  }
   GEOSContextHandle_t geos = geos_context();
   const Geometry collection(GEOSGeom_createCollection_r(geos, GEOS_GEOMETRYCOLLECTION, parts.data(),
                                                         static_cast<unsigned int>(parts.size())));

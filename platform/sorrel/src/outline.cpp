@@ -35,8 +35,9 @@ void append_distinct(Outline& outline, Vertex vertex) {
 }
 
 void drop_closing(Outline& outline) {
-  while (outline.size() > 1 && same_place(outline.front(), outline.back()))
+  while (outline.size() > 1 && same_place(outline.front(), outline.back())) {
     outline.pop_back();
+  }
 }
 
 std::optional<Outline> outline_of(const Polygon& polygon) {

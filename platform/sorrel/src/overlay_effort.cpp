@@ -33,8 +33,9 @@ std::vector<Box> side_boxes(std::span<const Outline> outlines) {
 
 bool is_affordable(std::span<const Outline> outlines) {
   std::size_t sides = 0;
-  for (const Outline& outline : outlines)
+  for (const Outline& outline : outlines) {
     sides += outline.size();
+  }
   if (sides <= few_sides) return true;
   if (sides > most_sides) return false;
   const std::vector<Box> boxes = side_boxes(outlines);

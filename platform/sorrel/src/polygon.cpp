@@ -156,8 +156,9 @@ std::optional<Vertex> point_on_surface(const Polygon& polygon) {
   const Geometry point(GEOSPointOnSurface_r(geos, ground.get()));
   Vertex found;
   if (!point || GEOSGeomGetX_r(geos, point.get(), &found.x) != 1
-      || GEOSGeomGetY_r(geos, point.get(), &found.y) != 1)
+      || GEOSGeomGetY_r(geos, point.get(), &found.y) != 1) {
     return std::nullopt;
+  }
   return found;
 }
 
@@ -224,14 +225,16 @@ void mergeCoincidentVertices(Polygon& polygon, double tol) {
   const auto near = [tol](const Point& a, const Point& b) {
     return std::abs(b[0] - a[0]) < tol && std::abs(b[1] - a[1]) < tol && distance(a, b) < tol;
   };
-  if (polygon.size() > 1 && same_place(vertex(polygon.front()), vertex(polygon.back())))
+  if (polygon.size() > 1 && same_place(vertex(polygon.front()), vertex(polygon.back()))) {
     polygon.pop_back();
+  }
   std::size_t kept = 1;
   for (std::size_t i = 1; i < polygon.size(); ++i) {
     if (!near(polygon[kept - 1], polygon[i])) polygon[kept++] = polygon[i];
   }
-  while (kept > 1 && near(polygon[kept - 1], polygon.front()))
+  while (kept > 1 && near(polygon[kept - 1], polygon.front())) {
     --kept;
+  }
   polygon.resize(kept);
   polygon.push_back(polygon.front());
 }

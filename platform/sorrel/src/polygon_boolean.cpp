@@ -89,8 +89,9 @@ bool append_combined(std::span<const Polygon> a, std::span<const Polygon> b,
   Parts parts = operation == iPolyOp::Intersection ? common_ground(*first, *second)
                                                    : overlaid(*first, *second, operation);
   if (!parts) return false;
-  for (Polygon& each : *parts)
+  for (Polygon& each : *parts) {
     result.push_back(std::move(each));
+  }
   return true;
 }
 

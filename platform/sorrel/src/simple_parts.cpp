@@ -108,8 +108,9 @@ void sort_from_left(std::vector<Polygon>& polygons) {
   };
   const auto key = [](const Polygon& polygon) {
     Key found{.left = polygon.front()[0], .down = -polygon.front()[1]};
-    for (const Point& each : polygon)
+    for (const Point& each : polygon) {
       found.left = std::min(found.left, each[0]);
+    }
     return found;
   };
   std::stable_sort(polygons.begin(), polygons.end(), [&](const Polygon& a, const Polygon& b) {
