@@ -9,6 +9,7 @@
 #include <quillet/translation.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 
 slsCheckInfo* slsCheckInfo::clone() const {
@@ -35,7 +36,7 @@ double xServiceLimitDispCombRes::getSfHead() const {
 }
 
 osg::ref_ptr<slsCheckInfo> xServiceLimitDispCombRes::getCheckInfo() const {
-  const bool head_governs = getSfJts() > getSfHead();
+  const bool head_governs = std::isnan(getSfJts()) || getSfJts() > getSfHead();
   osg::ref_ptr<slsCheckInfo> info = new slsCheckInfo;
   ostrel::structural::identify(*info, *this, head_governs ? getSfHead() : getSfJts());
   info->section = head_governs ? head_pos_ : jts_pos_;
@@ -104,7 +105,7 @@ double xServiceLimitDisplacements::getSfMin(ostrel::structural::Failures* failur
   ostrel::structural::scan_records(
       *this, results, failures,
       [](const xServiceLimitDispCombRes& result) {
-        return std::min(result.getSfJts(), result.getSfHead());
+        return std::fmin(result.getSfJts(), result.getSfHead());
       },
       [](const xServiceLimitDispCombRes& result, double) {
         return osg::ref_ptr<xCheckInfo>(result.getCheckInfo().get());

@@ -271,14 +271,16 @@ TEST_F(Run, WithoutLimitsAddsUpWhatALineAndAPointDo) {
 }
 
 TEST_F(Run, ReportsACombinationWhoseSpringsFindNoInterval) {
-  xSheetpilingData data = standing_wall().combination(unfactored("A")).build();
+  xLoadComb comb = unfactored("A");
+  comb.seismic.coefficients = {0.2, 0.1};
+  xSheetpilingData data = standing_wall().combination(comb).build();
   data.springIntervals.clear();
   EXPECT_EQ(run(data), veldError);
   ASSERT_EQ(errors.size(), 1U);
   EXPECT_EQ(errors[0].getID(), errNoUltimatePressure);
   EXPECT_THAT(errors[0].GetErrorStr(), StartsWith("Combinazione 'A': "));
   // The sign is switched after the springs only.
-  EXPECT_DOUBLE_EQ(solver.data.loadCombs[0].seismic.coefficients[1], 0.0);
+  EXPECT_DOUBLE_EQ(solver.data.loadCombs[0].seismic.coefficients[1], 0.1);
 }
 
 TEST_F(Run, KeepsTheWordsOfThePrefixInEveryLanguage) {
@@ -310,6 +312,37 @@ TEST_F(Run, SwitchesTheVerticalSeismicCoefficientForGood) {
   results.reset();
   ASSERT_EQ(solver.solve(results, uls, sls, errors), veldNothing);
   EXPECT_DOUBLE_EQ(solver.data.loadCombs[0].seismic.coefficients[1], 0.1);
+}
+
+// A = pi 300² and w = 25e-6 (1 - kv), the sign of kv = 0.1 switched before: 1.1 times the weight.
+TEST_F(Run, WeighsTheWallWithTheSwitchedVerticalCoefficient) {
+  xLoadComb comb = unfactored("S");
+  comb.seismic.coefficients = {0.0, 0.1};
+  ASSERT_EQ(run(standing_wall().combination(comb).build()), veldNothing);
+  ASSERT_EQ(results.combResults.size(), 1U);
+  expect_relative(results.combResults[0].femLoadConds[0].pressures.at(0).aStart,
+                  std::numbers::pi * 300.0 * 300.0 * 25e-6 * 1.1, 1e-12);
+}
+
+TEST_F(Run, TakesTheSeismicFormulaForTheSpringsOfASeismicCombination) {
+  xLoadComb comb = unfactored("S");
+  comb.setCombType(combSeismic);
+  xSheetpilingData data = standing_wall().combination(comb).build();
+  data.calcSettings.setEpFormuls(false, formulaRankine);
+  data.calcSettings.setEpFormuls(true, formulaAtRest);
+  ASSERT_EQ(run(data), veldNothing);
+  ASSERT_EQ(results.combResults.size(), 1U);
+  xSubgradeReactionModulus by_seismic;
+  ASSERT_EQ(by_seismic.compute_SkSpring(
+                solver.model.fem.getJtsoil(), formulaAtRest, 0.0, data.springIntervals,
+                geoFactorResistance, comb.geoFactors, solver.model.layers, data.props->getDepth(),
+                data.props->getLength(), 1000.0, data.calcSettings.getDispLim()),
+            ostrel::ok);
+  const auto& springs = results.combResults[0].subgradeModulus.springs;
+  ASSERT_EQ(springs.size(), by_seismic.springs.size());
+  for (const auto& [node, spring] : by_seismic.springs) {
+    EXPECT_DOUBLE_EQ(springs.at(node).passive_limit, spring.passive_limit);
+  }
 }
 
 // The verifications then meet more results than combinations and say so.

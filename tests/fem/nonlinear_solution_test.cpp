@@ -505,6 +505,20 @@ TEST(Solve, TakesASplitElementWithTheLengthItKept) {
   EXPECT_NEAR(across(result, 0), 8.0, 1e-13);  // of a cantilever of 4 mm: 22.5 * 64 / 180
 }
 
+// 18 N/mm on the outer half: q s² (12 - s) / 360 from s = 2 to 4 mm off the clamp, together
+// q (4 s³ - s⁴ / 4) / 360 = 18 (192 - 28) / 360.
+TEST(Solve, LoadsASplitElementByTheLengthItKept) {
+  SpringBeam beam = straight_beam(2, 2.0, 10.0, 20.0, 6.0);
+  beam.data.nodes[1].y = 1.0;
+  beam.data.nodes[2].y = 2.0;
+  beam.clamp(2);
+  beam.conditions.emplace_back("soil").pressures[0] = PressAtEnds(18.0, 18.0);
+  beam.options.linear = true;
+  xCombRes result;
+  ASSERT_EQ(beam.solve(result), ostrel::ok);
+  EXPECT_NEAR(across(result, 0), 8.2, 1e-12);
+}
+
 class OrdinaryWall : public ::testing::TestWithParam<std::pair<int, double>> {};
 
 TEST_P(OrdinaryWall, IsNotTakenForAMechanism) {

@@ -8,6 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+#include <tuple>
+
 namespace {
 
 using ostrel::testing::bytes_of;
@@ -135,6 +138,24 @@ TEST_F(Displacements, WithEqualFactorsAreReportedAtTheExcavation) {
   results = {moved({100.0, 40.0, 0.0})};  // 0.5 and 0.5
   ASSERT_EQ(verification.check(1, data, results), ostrel::ok);
   EXPECT_DOUBLE_EQ(verification.results[0].getCheckInfo()->section, 3000.0);
+}
+
+// 10 mm against a limit of 1 mm at one place, and against none that is a number at the other.
+TEST_F(Displacements, WithoutALimitAtOnePlaceGoByTheOther) {
+  constexpr double none = std::numeric_limits<double>::quiet_NaN();
+  results = {moved({10.0, 10.0, 0.0})};
+  for (const auto& [excavation, head, place] :
+       {std::tuple{none, 1.0, 0.0}, std::tuple{1.0, none, 3000.0}}) {
+    data.props->checkSettings.setJtsDispLim(excavation);
+    data.props->checkSettings.setHeadDispLim(head);
+    xServiceLimitDisplacements found;
+    ASSERT_EQ(found.check(1, data, results), ostrel::ok);
+    std::vector<osg::ref_ptr<xCheckInfo>> failures;
+    EXPECT_DOUBLE_EQ(found.getSfMin(&failures), 0.1);
+    ASSERT_EQ(failures.size(), 1U);
+    EXPECT_DOUBLE_EQ(failures[0]->sf, 0.1);
+    EXPECT_EQ(dynamic_cast<const slsCheckInfo&>(*failures[0]).section, place);
+  }
 }
 
 TEST_F(Displacements, OfNothingAreUnlimitedAndALimitOfZeroAllowsNone) {

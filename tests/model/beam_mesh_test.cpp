@@ -140,6 +140,12 @@ TEST(CreateFemModel, RefusesAnExcavationWithoutANode) {
   EXPECT_EQ(empty.create_FemModel(&data), errNoExcavationNode);
 }
 
+TEST(CreateFemModel, RefusesAnExcavationAtTheToleranceItself) {
+  xSheetpilingModel model = column_of({{0.0, 500.0}});
+  xSheetpilingData data = wall_of(500.0, 0.001);
+  EXPECT_EQ(model.create_FemModel(&data), errNoExcavationNode);
+}
+
 TEST(CreateFemModel, TakesTheFirstNodeNearTheExcavation) {
   xSheetpilingModel model = column_of({{0.0, 499.9995, 500.0, 600.0}});
   xSheetpilingData data = wall_of(600.0, 500.0);
