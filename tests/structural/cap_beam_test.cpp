@@ -86,6 +86,18 @@ protected:
   }
 
   OstrelErrorType design() { return designTrave(results, combs, anchors, data, beam); }
+  // Five bars of 20 mm on the valley side, 950 mm below the other face, and no others. By hand:
+  // T = 5 * 314.159 * 391.304 = 614 661 N, fcd = 0.83 * 30 * 0.85 / 1.5 = 14.11, x = T / (17 / 21 *
+  // 800 * 14.11) = 67.3 mm, M = T (950 - 99 / 238 x); the bars stretch by 0.046.
+  double check_valley_bars_alone() {
+    beam.checked = new xReinfRectSection;
+    beam.checked->vertexBars = false;
+    beam.checked->AValleEff().setNumber(5);
+    beam.checked->AValleEff().setDiameter(20.0);
+    const double pull = 500.0 * std::numbers::pi * 450.0 / 1.15;
+    return pull * (950.0 - 99.0 / 238.0 * pull / (17.0 / 21.0 * 800.0 * 14.11));
+  }
+
   xPile_Sheetpiling& wall() { return dynamic_cast<xPile_Sheetpiling&>(*data.props); }
   const xSectionCheck& section(std::size_t comb) const {
     return beam.bendShear.combinations.at(comb).sections.at(0);
@@ -266,6 +278,24 @@ TEST_F(CapBeam, ResistsAStrutOnItsOtherSide) {
   const double valley_side = section(0).flex.Mrd;
   beam.check();
   EXPECT_GT(section(0).flex.Mrd, 1.5 * valley_side);  // 10 bars for 6
+}
+
+TEST_F(CapBeam, WithoutAMomentResistsOnItsValleySide) {
+  ASSERT_EQ(design(), ostrel::ok);
+  ASSERT_DOUBLE_EQ(section(0).flex.Md, 0.0);
+  const double moment = check_valley_bars_alone();
+  beam.check();
+  EXPECT_NEAR(section(0).flex.Mrd, moment, 1e-9 * moment);
+}
+
+TEST_F(CapBeam, IsVerifiedBeyondACombinationWithoutSections) {
+  results = {loaded("SLU", 3, 120e3)};
+  ASSERT_EQ(design(), ostrel::ok);
+  beam.bendShear.combinations.insert(beam.bendShear.combinations.begin(), xBendShearCombResults{});
+  const double moment = check_valley_bars_alone();
+  beam.check();
+  EXPECT_TRUE(beam.bendShear.combinations[0].sections.empty());
+  EXPECT_NEAR(section(1).flex.Mrd, moment, 1e-9 * moment);
 }
 
 TEST_F(CapBeam, WithoutACombinationThatAsksIsDesignedAndNotVerified) {

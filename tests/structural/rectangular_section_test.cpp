@@ -182,6 +182,28 @@ TEST_F(Rectangle, LetsTheUphillRowFollowByTheRatio) {
   EXPECT_EQ(uphill(), (valley() + 1) / 2);
 }
 
+// All bars have 20 mm, and two of the corners stand on each side. A step adds a seventh bar on the
+// valley side: half of 7 + 2 bars less the two of the uphill side, 4.5 - 2 = 2.5, are 3 bars. Four
+// that were there already stay.
+TEST_F(Rectangle, CountsTheCornersOfEachSideInTheRatio) {
+  settings->ratio = 50.0;
+  settings->maxValle = 0.0;  // one step of growth alone
+  build();
+  osg::ref_ptr<xReinfRectSection> record = new xReinfRectSection;
+  record->AVerticeEff().setNumber(4);
+  record->AVerticeEff().setDiameter(20.0);
+  record->AValleEff().setNumber(6);
+  record->AValleEff().setDiameter(20.0);
+  record->AMonteEff().setDiameter(20.0);
+  for (const std::uint32_t before : {1U, 4U}) {
+    record->AMonteEff().setNumber(before);
+    ASSERT_TRUE(section->setReinforcement(record.get()));
+    ASSERT_TRUE(section->AxialDesign(0.0, 5e9));
+    EXPECT_EQ(valley(), 7U);
+    EXPECT_EQ(uphill(), before == 1U ? 3U : 4U);
+  }
+}
+
 // A moment that stretches the uphill side grows that row alone: nothing bounds the valley side.
 TEST_F(Rectangle, DoesNotLetTheValleyRowFollow) {
   settings->useVertexBars = false;
@@ -200,6 +222,16 @@ TEST_F(Rectangle, StopsAtTheLargestRatioOfASide) {
   build();
   ASSERT_TRUE(section->AxialDesign(0.0, 5e9));
   EXPECT_EQ(valley(), 6U);
+}
+
+TEST_F(Rectangle, StopsAtTheLargestRatioOfTheUphillSide) {
+  settings->useVertexBars = false;
+  settings->ratio = 0.0;
+  settings->maxMonte = 0.3;
+  build();
+  ASSERT_TRUE(section->AxialDesign(-50e3, -5e9));
+  EXPECT_EQ(uphill(), 6U);
+  EXPECT_EQ(valley(), 0U);
 }
 
 TEST_F(Rectangle, EndsWhereItStandsWithoutAStep) {
@@ -250,6 +282,26 @@ TEST_F(Rectangle, StandsFourBarsInItsCornersWhateverTheRecordSays) {
   record->AVerticeEff().setNumber(1);
   ASSERT_TRUE(section->setReinforcement(record.get()));
   EXPECT_DOUBLE_EQ(section->getAbsMresist(0.0, true), four);
+}
+
+// By the flag alone: the bars of the corners are in the record all the same. T = 5 * 314.159 *
+// 391.304 = 614 661 N, x = T / (17 / 21 * 1000 * 14.11), M = T (550 - 99 / 238 x).
+TEST_F(Rectangle, LeavesOutItsCornersWhereTheRecordHasNone) {
+  build();
+  osg::ref_ptr<xReinfRectSection> record = new xReinfRectSection;
+  record->vertexBars = false;
+  record->AVerticeEff().setNumber(4);
+  record->AVerticeEff().setDiameter(20.0);
+  record->AValleEff().setNumber(5);
+  record->AValleEff().setDiameter(20.0);
+  ASSERT_TRUE(section->setReinforcement(record.get()));
+  const double tension = 500.0 * std::numbers::pi * 450.0 / 1.15;
+  const double x = tension / (17.0 / 21.0 * 1000.0 * 14.11);
+  const double moment = tension * (550.0 - 99.0 / 238.0 * x);
+  EXPECT_NEAR(section->getAbsMresist(0.0, true), moment, 1e-9 * moment);
+  record->vertexBars = true;
+  ASSERT_TRUE(section->setReinforcement(record.get()));
+  EXPECT_GT(section->getAbsMresist(0.0, true), 1.2 * moment);  // 7 bars for 5
 }
 
 TEST_F(Rectangle, IsVerifiedInShearByItsOwnStrengths) {
