@@ -52,6 +52,17 @@ protected:
   }
   OstrelErrorType design() { return wall.design(section.get(), settings); }
   OstrelErrorType check() { return wall.check(section.get(), settings); }
+  // Five bars of 20 mm at the head, on the valley side alone, 50 mm from the face of a panel 600 mm
+  // deep and 1000 mm wide.
+  void reinforce_the_valley_side() {
+    section = rectangle_section(600.0, 1000.0).get();
+    settings = common_settings<xRectReinfSettings>(20.0, 50.0).get();
+    osg::ref_ptr<xReinfRectSection> record = new xReinfRectSection;
+    record->vertexBars = false;
+    record->AValleEff().setNumber(5);
+    record->AValleEff().setDiameter(20.0);
+    wall.checkedReinforcement.sections.emplace_back(record.get());
+  }
 
   xStructuralDesign wall;
   osg::ref_ptr<xCrossSecProp> section = circle(800.0).get();
@@ -75,13 +86,24 @@ TEST_F(WallDesign, CollectsTheForcesOfActiveCombinations) {
 
 TEST_F(WallDesign, RefusesNumbersThatDoNotAgree) {
   EXPECT_EQ(wall.collectStress(7, {combination(true)}, {}), errResultCount);
-  xCombResults ragged = forces("A", {{0.0, 1.0}});
-  ragged.femResults.shear.points.clear();
-  EXPECT_EQ(collect({ragged}), errResultCount);
   xLoadComb without_table = combination(false);
   without_table.checks.clear();
   EXPECT_EQ(wall.collectStress(7, {without_table}, {forces("A", {})}), errNoCheckEnabled);
   EXPECT_EQ(wall.collectStress(7, {}, {}), ostrel::ok);
+}
+
+// Whichever diagram is short, whether or not the combination asks, and before its table is missed.
+TEST_F(WallDesign, RefusesDiagramsOfDifferentLength) {
+  xLoadComb without_table = combination(false);
+  without_table.checks.clear();
+  for (const auto diagram : {&xFemResults::axial, &xFemResults::shear, &xFemResults::moment}) {
+    xCombResults ragged = forces("A", {{0.0, 1.0}});
+    (ragged.femResults.*diagram).points.clear();
+    EXPECT_EQ(collect({ragged}), errResultCount);
+    EXPECT_EQ(wall.collectStress(7, {combination(false)}, {ragged}), errResultCount);
+    EXPECT_EQ(wall.collectStress(7, {without_table}, {ragged}), errResultCount);
+  }
+  EXPECT_TRUE(wall.combResults.empty());
 }
 
 TEST_F(WallDesign, WithoutAnActiveCombinationKeepsTheLeastReinforcement) {
@@ -104,6 +126,16 @@ TEST_F(WallDesign, SizesEachAbscissaForTheWorstCombination) {
   EXPECT_EQ(records[0]->AValleEff().getNumber(), records[1]->AValleEff().getNumber());
   ASSERT_EQ(check(), ostrel::ok);
   EXPECT_GE(wall.getSfMin(nullptr), 1.0);
+}
+
+TEST_F(WallDesign, BeginsItsRecordsAnewEachTime) {
+  ASSERT_EQ(collect({forces("A", {{0.0, 1.0}, {500.0, 2.0}})}), ostrel::ok);
+  ASSERT_EQ(design(), ostrel::ok);
+  ASSERT_EQ(design(), ostrel::ok);
+  ASSERT_EQ(wall.designedReinforcement.sections.size(), 2U);
+  EXPECT_DOUBLE_EQ(wall.designedReinforcement.sections[0]->getAbscissa(), 0.0);
+  EXPECT_DOUBLE_EQ(wall.designedReinforcement.sections[1]->getAbscissa(), 500.0);
+  EXPECT_EQ(wall.checkedReinforcement.sections.size(), 2U);
 }
 
 // The node at 500 mm carries 100 kNm above and 600 kNm below: its record is that of the element
@@ -168,23 +200,41 @@ TEST_F(WallDesign, ReadsTheAbscissaeOfTheFirstCombinationAlone) {
   EXPECT_EQ(wall.bendShear.combinations[0].getCombName(), "A");
 }
 
-// Five bars of 20 mm on the valley side alone, 50 mm from the face of a panel 600 mm deep and
-// 1000 mm wide, stretched by a positive moment: T = 1570.8 * 391.304 = 614 661 N, the depth in
-// compression x = T / (17/21 * 1000 * 14.11) = 53.81 mm, Mrd = T (550 - 99/238 * x) = 324.30 kNm.
+// Bars stretched by a positive moment: T = 1570.8 * 391.304 = 614 661 N, the depth in compression
+// x = T / (17/21 * 1000 * 14.11) = 53.81 mm, Mrd = T (550 - 99/238 * x) = 324.30 kNm.
 // A negative moment has them at less than 50 mm from the compressed face: below T * 50 = 30.7 kNm.
 TEST_F(WallDesign, CountsAMomentOfZeroAsPositive) {
-  section = rectangle_section(600.0, 1000.0).get();
-  settings = common_settings<xRectReinfSettings>(20.0, 50.0).get();
-  osg::ref_ptr<xReinfRectSection> record = new xReinfRectSection;
-  record->vertexBars = false;
-  record->AValleEff().setNumber(5);
-  record->AValleEff().setDiameter(20.0);
-  wall.checkedReinforcement.sections.emplace_back(record.get());
+  reinforce_the_valley_side();
   wall.combResults.emplace_back().stresses = {{0.0, 0.0, 0.0, 0.0}, {0.0, 0.0, 0.0, -1.0}};
   ASSERT_EQ(check(), ostrel::ok);
   const auto& sections = wall.bendShear.combinations.at(0).sections;
   EXPECT_NEAR(sections.at(0).flex.Mrd, 324.30e6, 0.01e6);
   EXPECT_LT(sections.at(1).flex.Mrd, 30.74e6);
+}
+
+// Without shear, and with Mrd = 324.30 kNm as above: 324.30 / 162.15 = 2 for the first
+// combination, 324.30 / 108.10 = 3 for the second.
+TEST_F(WallDesign, HoldsItsFactorBeforeAnybodyAsks) {
+  reinforce_the_valley_side();
+  wall.combResults.resize(2);
+  wall.combResults[0].stresses = {{0.0, 0.0, 0.0, 0.0}, {0.0, 0.0, 0.0, 162.15e6}};
+  wall.combResults[1].stresses = {{0.0, 0.0, 0.0, 108.10e6}};
+  ASSERT_EQ(check(), ostrel::ok);
+  EXPECT_NEAR(wall.bendShear.getSf(), 2.0, 1e-4);
+  EXPECT_NEAR(wall.bendShear.combinations.at(0).getSf(), 2.0, 1e-4);
+  EXPECT_EQ(wall.bendShear.combinations[0].getIndex(), 1.0);
+  EXPECT_NEAR(wall.bendShear.combinations.at(1).getSf(), 3.0, 1e-4);
+}
+
+// The second combination has no record at its 700 mm; the first, 324.30 / 162.15, has its factor.
+TEST_F(WallDesign, HoldsTheFactorOfACombinationBeforeTheOneThatFails) {
+  reinforce_the_valley_side();
+  wall.combResults.resize(2);
+  wall.combResults[0].stresses = {{0.0, 0.0, 0.0, 162.15e6}};
+  wall.combResults[1].stresses = {{700.0, 0.0, 0.0, 108.10e6}};
+  EXPECT_EQ(check(), errNoReinfAtAbscissa);
+  ASSERT_EQ(wall.bendShear.combinations.size(), 1U);
+  EXPECT_NEAR(wall.bendShear.combinations[0].getSf(), 2.0, 1e-4);
 }
 
 TEST_F(WallDesign, NeedsASectionThatSuitsItsSettings) {
