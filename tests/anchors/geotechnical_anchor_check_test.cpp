@@ -376,6 +376,30 @@ TEST(GeotechnicalAnchorDesign, FactorsTheSoilAsTheCombinationDoes) {
   EXPECT_NEAR(design.anchors.at(0).combinations.at(0).bulbs.at(0).getDepthStress(), 0.07875, 1e-12);
 }
 
+// 50 kN/m² over all the ground, in a condition that acts: the halves of the bulb keep the 0.1575 and
+// 0.186 N/mm² of their ground alone, and with the soil's friction its strength is the same.
+TEST(GeotechnicalAnchorDesign, CountsNoSurcharge) {
+  auto data = ground_with({falling()}, {combination(true, 1.0)});
+  data.soilLayers = two_layers();
+  data.loadCombs[0].actions = ostrel::testing::unfactored("C").actions;
+  xGeotechnicalAnchorDesign bare;
+  ASSERT_EQ(bare.check(data, {link_to(0)}, {moved(0, 1.0)}), ok);
+
+  const osg::ref_ptr<xUniformLoad> surcharge = new xUniformLoad;
+  surcharge->setValue(0.05);
+  data.loadConds.resize(1);
+  data.loadConds[0].soilLoads = {surcharge};
+  data.loadCombs[0].actions.emplace_back().set("surcharge", true, 1.0, 1.0);
+  xGeotechnicalAnchorDesign loaded;
+  ASSERT_EQ(loaded.check(data, {link_to(0)}, {moved(0, 1.0)}), ok);
+  const xGeoAnchorCombRes& outcome = loaded.anchors.at(0).combinations.at(0);
+  ASSERT_EQ(outcome.bulbs.size(), 2U);
+  EXPECT_NEAR(outcome.bulbs[0].getDepthStress(), 0.1575, 1e-12);
+  EXPECT_NEAR(outcome.bulbs[1].getDepthStress(), 0.186, 1e-12);
+  EXPECT_EQ(outcome.getRd(), bare.anchors.at(0).combinations.at(0).getRd());
+  EXPECT_EQ(outcome.getFd(), bare.anchors.at(0).combinations.at(0).getFd());
+}
+
 TEST(GeotechnicalAnchorDesign, TakesAMissingFactorOnTheResistanceForOne) {
   auto data = ground_with({falling()}, {combination(true, 1.0)});
   data.loadCombs[0].ulsFactors.clear();

@@ -306,6 +306,25 @@ TEST(StructuralAnchorDesign, EndsAtACodeAndKeepsTheAnchorsBefore) {
   EXPECT_EQ(design.anchors[0].combinations.at(0).getIdObj(), 101);
 }
 
+// The second anchor's node moves in the first combination and is missing in the second.
+TEST(StructuralAnchorDesign, DropsAnAnchorThatEndsInItsSecondCombination) {
+  xSheetpilingData data;
+  data.loadCombs = {combination(true), combination(true)};
+  data.anchors = {anchor(101), anchor(102)};
+  std::vector<xCombResults> results{moved(0, 1.0), moved(1, 1.0)};
+  results[0].femResults.dispAxial.points.emplace_back(1000.0, 0.0);
+  results[0].femResults.dispTrans.points.emplace_back(1000.0, -3.0);
+  xStructuralAnchorDesign design;
+  EXPECT_EQ(design.check(data, {link_to(0), link_to(1)}, {results[0]}), ok);
+  EXPECT_EQ(design.anchors.size(), 2U);  // in the first combination alone both are verified
+
+  design.reset();
+  EXPECT_EQ(design.check(data, {link_to(0), link_to(1)}, results), errFemNodeNotFound);
+  ASSERT_EQ(design.anchors.size(), 1U);
+  ASSERT_EQ(design.anchors[0].combinations.size(), 2U);
+  EXPECT_EQ(design.anchors[0].combinations[0].getIdObj(), 101);
+}
+
 TEST(StrAnchorCombRes, IsStoredAsItsBaseInAFrame) {
   const xStrAnchorCombRes outcome = record(0.75);
   EXPECT_EQ(outcome.getIOClass(), "xStrAnchorCombRes");
