@@ -79,11 +79,20 @@ protected:
 };
 
 TEST_F(Verifications, WithoutAnActiveCombinationStoreNothing) {
-  solve(asking_for({}));
+  solve_anchored(asking_for({}));
+  seep();
   EXPECT_EQ(check(), ostrel::ok);
   EXPECT_TRUE(uls.structuralDesign.combResults.empty());
   EXPECT_TRUE(uls.structuralDesign.bendShear.combinations.empty());
   EXPECT_TRUE(uls.slopeStabilityDesign.getResults().empty());
+  EXPECT_TRUE(uls.structuralAnchorDesign.anchors.empty());
+  EXPECT_TRUE(uls.geotechnicalAnchorDesign.anchors.empty());
+  EXPECT_TRUE(uls.geotechnicalPileDesign.results.empty());
+  EXPECT_TRUE(uls.rigidBodyDesign.results.empty());
+  EXPECT_TRUE(uls.traveResults.bendShear.combinations.empty());
+  EXPECT_FALSE(uls.traveResults.done);
+  EXPECT_TRUE(uls.hydraulicChecks.piping.empty());
+  EXPECT_TRUE(uls.hydraulicChecks.uplift.empty());
   EXPECT_DOUBLE_EQ(uls.getSfMin(nullptr), 1e10);
 }
 

@@ -80,6 +80,17 @@ TEST_F(Displacements, AtANodeBeyondTheBeamFailEvenWhereNobodyAsks) {
   EXPECT_EQ(verification.check(3, data, results), errNodeCountModel);
 }
 
+// Two nodes of three in one of the two diagrams: node 1 is there, node 2 is not.
+TEST_F(Displacements, NeedTheNodeInBothDiagrams) {
+  for (const auto diagram : {&xFemResults::dispAxial, &xFemResults::dispTrans}) {
+    std::vector<xCombResults> cut = results;
+    (cut[0].femResults.*diagram).points.pop_back();
+    EXPECT_EQ(verification.collectDispl(7, 1, data.loadCombs, cut), ostrel::ok);
+    EXPECT_EQ(verification.collectDispl(7, 2, data.loadCombs, cut), errNodeCountModel);
+  }
+  EXPECT_EQ(verification.results.size(), 2U);
+}
+
 TEST_F(Displacements, NeedAWall) {
   data.props = nullptr;
   EXPECT_EQ(verification.check(1, data, results), errNoWall);
