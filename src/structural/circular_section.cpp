@@ -89,6 +89,7 @@ bool circ_ConcreteSection::AxialDesign(double N, double M) {
     const std::uint32_t before = ring.getNumber();
     ring.addBars(as_int(settings->getStep()));
     if (ring.getNumber() == before || too_many(ring)) return true;
+    if (!(ring.barArea() > 0.0)) continue;  // such bars change nothing
     setReinfBars();
     sf = getsf(N, M);
   }

@@ -72,6 +72,20 @@ TEST(DirectedSection, StretchesBarsElasticallyAndThenPlastically) {
   expect_relative(r.along_by_slope, row_area * 200'000 * 50.0 * 50);
 }
 
+// Three bars of 64, 144 and 100 pi mm² at 200 N/mm²: the forces have the lever arms -100, 40 and 140
+// to one side, 64 * -100 + 144 * 40 + 100 * 140 = 13 360, and all of them 200 to the other.
+TEST(DirectedSection, TakesEachBarOfARowWhereItStands) {
+  ModelOf model(Recipe{.outline = rectangle(300, 500),
+                       .bars = {{-100, 200, 8}, {40, 200, 12}, {140, 200, 10}}});
+  for (const double cosine : {1.0, -1.0}) {
+    const DirectedSection& section = model->along({.cosine = cosine, .sine = 0.0}).section;
+    const Plane plane{.top = 0.001};
+    expect_relative(section.respond(plane).axial, 308 * pi * 200);
+    expect_relative(section.moment(plane).x, 308 * pi * 200 * 200);
+    expect_relative(section.moment(plane).y, 13'360 * pi * 200);
+  }
+}
+
 // Half a per mille beyond yielding at a slope of 1000 adds 0.5 to 400.
 TEST(DirectedSection, HardensBarsAlike) {
   Recipe recipe = round_rectangle();

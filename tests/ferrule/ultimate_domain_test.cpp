@@ -257,4 +257,15 @@ TEST(UltimateDomain, EndsInPoints) {
   }
 }
 
+// 17 N/mm² in 300 x 500 of concrete and 400 N/mm² in eight bars of 100 pi mm².
+TEST(UltimateDomain, ResistsNothingBeyondTheCrushedSection) {
+  ModelOf model(round_rectangle());
+  const double crushed = -(17 * 150'000 + 400 * 800 * pi);
+  for (const Direction direction : {Direction{}, direction_at(1.0)}) {
+    EXPECT_TRUE(resisting_state(*model, crushed * (1 - 1e-6), direction));
+    EXPECT_FALSE(resisting_state(*model, crushed * (1 + 1e-6), direction));
+    EXPECT_FALSE(resisting_state(*model, crushed * 1e24, direction));
+  }
+}
+
 }  // namespace

@@ -202,14 +202,24 @@ double number_of_stripes(const xSheetpilingData& data) {
   return (right - left) / data.calcSettings.slope.getWidthstripe() + 1.0;
 }
 
-// Whether a run takes long for an honest reason: thousands of levels, circles, stripes or passes.
+// Whether bars are so thin that thousands of them may be laid out, one step after the other. Bars
+// without an area are not.
+bool has_thin_bars(const xSheetpilingData& data) {
+  if (!data.props) return false;
+  const auto& settings = data.props->checkSettings.reinforcementSettings;
+  const double diameter = settings ? settings->getBarDiam() : 0.0;
+  return diameter > 0.0 && diameter < 5.0;
+}
+
+// Whether a run takes long for an honest reason: thousands of levels, circles, stripes, passes or
+// bars.
 bool is_large(const host::Job& job) {
   const xSheetpilingData& data = job.data;
   const double length = data.props ? data.props->getLength() : 0.0;
   const double levels = length / std::max(1e-9, std::abs(data.calcSettings.getStepMolle()));
   const double circles = number_of_circles(data.calcSettings.slope);
   const double stripes = number_of_stripes(data);
-  return levels > 300.0 || job.fem.maxIterations > 1000 || stripes > 1000.0
+  return levels > 300.0 || job.fem.maxIterations > 1000 || stripes > 1000.0 || has_thin_bars(data)
       || circles * stripes > 20'000.0;
 }
 

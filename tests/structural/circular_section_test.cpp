@@ -98,6 +98,16 @@ TEST_F(Circle, EndsWithoutASectionOfItsBars) {
   EXPECT_EQ(bars(), 3000U);  // the first step beyond 2000
 }
 
+TEST_F(Circle, EndsWithoutASectionOfItsBarsBarByBarToo) {
+  settings->setBarDiam(0.0);
+  settings->setMaxRatio(4.0);
+  settings->setStep(1);
+  build();
+  section->beginDesign(0.0);
+  EXPECT_TRUE(section->AxialDesign(0.0, 5e9));
+  EXPECT_EQ(bars(), 2001U);
+}
+
 TEST_F(Circle, AddsNothingForForcesThatAreNotFinite) {
   settings->setMinRatio(0.5);
   settings->setMaxRatio(4.0);

@@ -101,6 +101,18 @@ void DirectedSection::set_crush_limits() {
   }
 }
 
+void DirectedSection::Part::add_bar(double depth, double across, double area) {
+  const bool in_a_row =
+      !bar_depth.empty() && !(depth < bar_depth.back()) && !(depth > bar_depth.back());
+  if (!in_a_row) {
+    bar_depth.push_back(depth);
+    bar_area.push_back(0.0);
+    bar_across.push_back(0.0);
+  }
+  bar_area.back() += area;
+  bar_across.back() += area * across;
+}
+
 void DirectedSection::place_bars(std::span<const SectionPart> parts) {
   first_ = 0.0;
   last_ = depth_;
@@ -112,10 +124,9 @@ void DirectedSection::place_bars(std::span<const SectionPart> parts) {
     part.bar_across.clear();
     part.bar_area.clear();
     for (const BarPoint& bar : parts[i].bars) {
-      part.bar_depth.push_back(direction_.level(bar.axis) - start_);
-      part.bar_across.push_back(direction_.across(bar.axis));
-      part.bar_area.push_back(bar.area * part.scale);
-      bar_force_ += part.bar_area.back() * part.steel.yield_stress;
+      const double area = bar.area * part.scale;
+      part.add_bar(direction_.level(bar.axis) - start_, direction_.across(bar.axis), area);
+      bar_force_ += area * part.steel.yield_stress;
     }
     if (part.bar_depth.empty()) continue;
     const auto [nearest, farthest] =
@@ -185,7 +196,7 @@ double DirectedSection::across_of(const Part& part, Plane plane) {
   const double yield_strain = part.steel.yield_stress / part.steel.modulus;
   for (std::size_t i = 0; i < part.bar_depth.size(); ++i) {
     const double stress = bar_stress(part.steel, yield_strain, plane.at(part.bar_depth[i])).stress;
-    across += part.bar_area[i] * stress * part.bar_across[i];
+    across += stress * part.bar_across[i];
   }
   return across;
 }

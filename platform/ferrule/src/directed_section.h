@@ -102,10 +102,13 @@ private:
     ConcreteLaw concrete;  ///< its strength times the scale of the domain
     SteelLaw steel;
     double scale = 1.0;
-    double offset = 0.0;             ///< depth of the part's own top [mm]
+    double offset = 0.0;  ///< depth of the part's own top [mm]
+    // Bars that follow one another at the same depth, as those of a row, count as one.
     std::vector<double> bar_depth;   ///< [mm]
-    std::vector<double> bar_across;  ///< [mm]
     std::vector<double> bar_area;    ///< times the scale of the domain [mm²]
+    std::vector<double> bar_across;  ///< first moment of that area across the direction [mm³]
+
+    void add_bar(double depth, double across, double area);
   };
 
   void set_crush_limits();

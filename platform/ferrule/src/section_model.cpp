@@ -178,7 +178,8 @@ void SectionModel::sum_forces() {
     for (const BarPoint& bar : part.bars) {
       const double force = part.laws.steel.yield_stress * part.scale * bar.area;
       axial_force_ += force;
-      moment_force_ += force * std::hypot(bar.axis.x, bar.axis.y);
+      const Point axis = bar.axis;  // its square cannot overflow
+      moment_force_ += force * std::sqrt(axis.x * axis.x + axis.y * axis.y);
       stretch_limit_ = std::max(stretch_limit_, part.laws.steel.limit_strain);
     }
   }

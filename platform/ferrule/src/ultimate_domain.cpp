@@ -18,6 +18,26 @@ double length(Moment m) {
   return std::hypot(m.x, m.y);
 }
 
+/// The axial force by which forces may lie outside.
+double axial_slack(const SectionModel& model) {
+  return slack * model.axial_force();
+}
+
+/// The same of a moment.
+double moment_slack(const SectionModel& model) {
+  return slack * model.moment_force();
+}
+
+/// Whether no plane within the limits has the axial force. Below uniform compression this is a
+/// bound only: every fibre at the ultimate strain.
+bool is_out_of_reach(SectionModel& model, double axial) {
+  const View& view = model.along({});
+  if (!(axial <= view.path.largest_axial() + axial_slack(model))) return true;
+  if (axial >= view.path.uniform_compression()) return false;
+  const double least = view.section.respond({.top = -model.ultimate_strain()}).axial;
+  return !(axial >= least - axial_slack(model));
+}
+
 /// One query.
 class Equilibrium {
 public:
@@ -25,8 +45,8 @@ public:
       : model_(model),
         axial_(axial),
         moment_(moment),
-        axial_slack_(slack * model.axial_force()),
-        moment_slack_(slack * model.moment_force()) {}
+        axial_slack_(axial_slack(model)),
+        moment_slack_(moment_slack(model)) {}
 
   /// A plane within the limits that has the forces, if there is one.
   std::optional<Deform> balance();
@@ -34,8 +54,8 @@ public:
   std::optional<Deform> ultimate();
 
 private:
-  bool is_out_of_reach();
   std::optional<Deform> within_slice();
+  bool exceeds(const StrainState& ultimate, Moment centre) const;
   std::optional<Deform> within_limits(const StrainState& state);
 
   SectionModel& model_;
@@ -45,18 +65,10 @@ private:
   double moment_slack_;
 };
 
-/// Whether no plane within the limits has the axial force. Below uniform compression this is a
-/// bound only: every fibre at the ultimate strain.
-bool Equilibrium::is_out_of_reach() {
-  const View& view = model_.along({});
-  const double least = view.section.respond({.top = -model_.ultimate_strain()}).axial;
-  return !(axial_ <= view.path.largest_axial() + axial_slack_ && axial_ >= least - axial_slack_);
-}
-
 /// Uniform tension and uniform compression are the same along all directions. Below the latter the
 /// slice does not hold the uniform plane, and the plane that has the forces tells by itself.
 std::optional<Deform> Equilibrium::balance() {
-  if (is_out_of_reach()) return std::nullopt;
+  if (is_out_of_reach(model_, axial_)) return std::nullopt;
   const UltimatePath& path = model_.along({}).path;
   if (axial_ < path.uniform_compression() - axial_slack_) {
     const StrainState uniform = MomentSlice(model_, axial_).uniform();
@@ -67,16 +79,27 @@ std::optional<Deform> Equilibrium::balance() {
 }
 
 /// Most often the plane that has the forces tells by itself. On the border it may be hard to tell
-/// from its neighbours or not be found: there the ultimate plane decides.
+/// from its neighbours or not be found: there the ultimate plane decides. It also does, and at
+/// once, where it has no moment beside the wanted one, as under symmetry.
 std::optional<Deform> Equilibrium::within_slice() {
   MomentSlice slice(model_, axial_);
   const StrainState uniform = slice.uniform();
   if (length(moment_ - uniform.moment) <= moment_slack_) return uniform.deform;
+  const Direction ahead = direction_of(moment_ - uniform.moment);
+  const auto ultimate = slice.ultimate_along(ahead);
+  if (ultimate && exceeds(*ultimate, uniform.moment)) return std::nullopt;
   const auto inner = within_limits(balanced_state(model_, axial_, moment_, uniform));
   if (inner) return inner;
-  const auto border = slice.border(uniform.moment, direction_of(moment_ - uniform.moment));
+  const auto border = slice.border(uniform.moment, ahead);
   if (!border || !(length(moment_ - border->moment) <= moment_slack_)) return std::nullopt;
   return border->deform;
+}
+
+/// Whether the ultimate moment lies on the way from the centre of the slice to the wanted one.
+bool Equilibrium::exceeds(const StrainState& ultimate, Moment centre) const {
+  const double beside = across(ultimate.moment - centre, ultimate.gradient);
+  const double beyond = along(moment_ - ultimate.moment, ultimate.gradient);
+  return std::abs(beside) <= moment_rounding * model_.moment_force() && beyond > moment_slack_;
 }
 
 /// The state's plane, drawn back to the limits when it exceeds them, if it has the forces.
@@ -91,7 +114,7 @@ std::optional<Deform> Equilibrium::within_limits(const StrainState& state) {
 }
 
 std::optional<Deform> Equilibrium::ultimate() {
-  if (is_out_of_reach()) return std::nullopt;
+  if (is_out_of_reach(model_, axial_)) return std::nullopt;
   MomentSlice slice(model_, axial_);
   const Direction side = direction_of(moment_);
   auto state = slice.border({}, side);
@@ -106,16 +129,14 @@ std::optional<Deform> Equilibrium::ultimate() {
 }  // namespace
 
 std::optional<StrainState> resisting_state(SectionModel& model, double axial, Direction direction) {
-  const UltimatePath& path = model.along({}).path;
-  const double axial_slack = slack * model.axial_force();
-  const double moment_slack = slack * model.moment_force();
-  if (!(axial <= path.largest_axial() + axial_slack)) return std::nullopt;
-  if (axial >= path.uniform_compression() - axial_slack) {
-    axial = std::max(axial, path.uniform_compression());
+  if (is_out_of_reach(model, axial)) return std::nullopt;
+  const double uniform_compression = model.along({}).path.uniform_compression();
+  if (axial >= uniform_compression - axial_slack(model)) {
+    axial = std::max(axial, uniform_compression);
   }
   auto state = MomentSlice(model, axial).border({}, direction);
-  const bool found = state && along(state->moment, direction) >= -moment_slack
-                  && std::abs(across(state->moment, direction)) <= moment_slack;
+  const bool found = state && along(state->moment, direction) >= -moment_slack(model)
+                  && std::abs(across(state->moment, direction)) <= moment_slack(model);
   if (!found) return std::nullopt;
   return state;
 }
