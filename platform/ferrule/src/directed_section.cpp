@@ -104,13 +104,14 @@ void DirectedSection::set_crush_limits() {
 void DirectedSection::Part::add_bar(double depth, double across, double area) {
   const bool in_a_row =
       !bar_depth.empty() && !(depth < bar_depth.back()) && !(depth > bar_depth.back());
-  if (!in_a_row) {
-    bar_depth.push_back(depth);
-    bar_area.push_back(0.0);
-    bar_across.push_back(0.0);
+  if (in_a_row) {
+    bar_area.back() += area;
+    bar_across.back() += area * across;
+    return;
   }
-  bar_area.back() += area;
-  bar_across.back() += area * across;
+  bar_depth.push_back(depth);
+  bar_area.push_back(area);
+  bar_across.push_back(area * across);
 }
 
 void DirectedSection::place_bars(std::span<const SectionPart> parts) {
@@ -161,17 +162,19 @@ void DirectedSection::add_concrete(const Part& part, Plane plane, Response& resp
 
 void DirectedSection::add_bars(const Part& part, Plane plane, Response& response) {
   const double yield_strain = part.steel.yield_stress / part.steel.modulus;
+  Response sum = response;  // a copy stays in registers
   for (std::size_t i = 0; i < part.bar_depth.size(); ++i) {
     const double z = part.bar_depth[i];
     const BarStress bar = bar_stress(part.steel, yield_strain, plane.at(z));
     const double force = part.bar_area[i] * bar.stress;
     const double tangent = part.bar_area[i] * bar.tangent;
-    response.axial += force;
-    response.along += force * z;
-    response.axial_by_top += tangent;
-    response.axial_by_slope += tangent * z;
-    response.along_by_slope += tangent * z * z;
+    sum.axial += force;
+    sum.along += force * z;
+    sum.axial_by_top += tangent;
+    sum.axial_by_slope += tangent * z;
+    sum.along_by_slope += tangent * z * z;
   }
+  response = sum;
 }
 
 Response DirectedSection::respond(Plane plane) const {
