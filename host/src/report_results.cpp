@@ -4,6 +4,7 @@
 #include "equilibrium.h"
 #include "report_block.h"
 #include "report_combinations.h"
+#include "run_data.h"
 #include "summary.h"
 #include "units.h"
 #include "verification.h"
@@ -42,11 +43,6 @@ std::vector<std::string> ids_ending(const std::vector<Figure>& figures,
     }
   }
   return ids;
-}
-
-std::string name_of_anchor(const Project& project, std::size_t place) {
-  const bool named = place < project.anchors.size() && !project.anchors[place].name.empty();
-  return named ? project.anchors[place].name : fmt::format("{}", place + 1);
 }
 
 OrderedJson extreme_table(const Summary& summary) {

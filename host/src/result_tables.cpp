@@ -4,6 +4,7 @@
 #include "csv.h"
 #include "equilibrium.h"
 #include "phrases.h"
+#include "run_data.h"
 #include "summary.h"
 #include "units.h"
 #include "verification.h"
@@ -120,13 +121,6 @@ ResultTable pressure_table(const xCombResults& combination, const Texts& texts) 
   return table;
 }
 
-// An anchor by its name, or else by its number.
-std::string anchor_words(const Project& project, std::size_t place, const Texts& texts) {
-  const bool named = place < project.anchors.size() && !project.anchors[place].name.empty();
-  return texts(Text::anchor_row,
-               named ? project.anchors[place].name : fmt::format("{}", place + 1));
-}
-
 void add_summary(const Project& project, const Summary& summary, const Texts& texts,
                  ResultTable& table) {
   const auto row = [&](const std::string& code, std::string_view words, const char* unit,
@@ -141,7 +135,8 @@ void add_summary(const Project& project, const Summary& summary, const Texts& te
   row("spring_use", texts(Text::spring_row), "-", summary.spring_use);
   for (std::size_t i = 0; i < summary.anchors.size(); ++i) {
     const AnchorState& anchor = summary.anchors[i];
-    row(fmt::format("anchor_{}_kN", i + 1), anchor_words(project, anchor.place, texts), "kN",
+    row(fmt::format("anchor_{}_kN", i + 1),
+        texts(Text::anchor_row, name_of_anchor(project, anchor.place)), "kN",
         {.value = anchor.force_kN, .depth_m = anchor.depth_m});
   }
   for (const SupportState& support : summary.supports) {

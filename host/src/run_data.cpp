@@ -5,10 +5,20 @@
 #include "equilibrium.h"
 #include "phrases.h"
 
+#include <fmt/format.h>
+
 #include <cstddef>
 #include <utility>
 
 namespace ostrel::host {
+
+namespace {
+
+std::string name_or_number(const std::string& name, std::size_t place) {
+  return name.empty() ? fmt::format("{}", place + 1) : name;
+}
+
+}  // namespace
 
 RunData run_data_of(const Project& project, const Job& job, const Outcome& outcome,
                     const Texts& texts) {
@@ -40,6 +50,16 @@ RunData run_data_of(const Project& project, const Job& job, const Outcome& outco
   data.ultimate = outcome.ultimate;
   data.serviceability = outcome.serviceability;
   return data;
+}
+
+std::string name_of_anchor(const RunData& data, std::size_t place) {
+  const auto& names = data.anchor_names;
+  return name_or_number(place < names.size() ? names[place] : "", place);
+}
+
+std::string name_of_anchor(const Project& project, std::size_t place) {
+  const auto& anchors = project.anchors;
+  return name_or_number(place < anchors.size() ? anchors[place].name : "", place);
 }
 
 std::vector<std::string> remarks_on(const Project& project, const Texts& texts) {

@@ -7,6 +7,7 @@
 #include "summary.h"
 #include "texts.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -40,6 +41,10 @@ struct RunData {
 
 RunData run_data_of(const Project& project, const Job& job, const Outcome& outcome,
                     const Texts& texts);
+
+/// An anchor by its name, or else by its number.
+std::string name_of_anchor(const RunData& data, std::size_t place);
+std::string name_of_anchor(const Project& project, std::size_t place);
 
 /// A warning for each place of a project that looks odd.
 std::vector<std::string> remarks_on(const Project& project, const Texts& texts);

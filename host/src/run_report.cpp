@@ -118,9 +118,7 @@ private:
   }
 
   std::string anchor_label(std::size_t place) const {
-    const std::vector<std::string>& names = data_.anchor_names;
-    const bool named = place < names.size() && !names[place].empty();
-    return texts_(Text::anchor_row, named ? names[place] : fmt::format("{}", place + 1));
+    return texts_(Text::anchor_row, name_of_anchor(data_, place));
   }
 
   const RunData& data_;
