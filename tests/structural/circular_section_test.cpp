@@ -6,6 +6,7 @@
 
 #include <limits>
 #include <numbers>
+#include <utility>
 
 namespace {
 
@@ -90,22 +91,14 @@ TEST_F(Circle, EndsWhereItStandsWithoutAStep) {
 TEST_F(Circle, EndsWithoutASectionOfItsBars) {
   settings->setBarDiam(0.0);
   settings->setMaxRatio(4.0);
-  settings->setStep(1000);
-  build();
-  section->beginDesign(0.0);
-  EXPECT_EQ(bars(), 0U);
-  EXPECT_TRUE(section->AxialDesign(0.0, 5e9));
-  EXPECT_EQ(bars(), 3000U);  // the first step beyond 2000
-}
-
-TEST_F(Circle, EndsWithoutASectionOfItsBarsBarByBarToo) {
-  settings->setBarDiam(0.0);
-  settings->setMaxRatio(4.0);
-  settings->setStep(1);
-  build();
-  section->beginDesign(0.0);
-  EXPECT_TRUE(section->AxialDesign(0.0, 5e9));
-  EXPECT_EQ(bars(), 2001U);
+  for (const auto& [step, first_beyond_2000] : {std::pair{1000U, 3000U}, std::pair{1U, 2001U}}) {
+    settings->setStep(step);
+    build();
+    section->beginDesign(0.0);
+    EXPECT_EQ(bars(), 0U);
+    EXPECT_TRUE(section->AxialDesign(0.0, 5e9));
+    EXPECT_EQ(bars(), first_beyond_2000);
+  }
 }
 
 TEST_F(Circle, AddsNothingForForcesThatAreNotFinite) {
