@@ -29,7 +29,7 @@ double moment_slack(const SectionModel& model) {
 }
 
 /// Whether no plane within the limits has the axial force. Below uniform compression this is a
-/// bound only: every fibre at the ultimate strain.
+/// bound only, for bars within the concrete: every fibre at the ultimate strain.
 bool is_out_of_reach(SectionModel& model, double axial) {
   const View& view = model.along({});
   if (!(axial <= view.path.largest_axial() + axial_slack(model))) return true;
